@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "OdDbHandle.h"
+#include "OdDbObjectId.h"
+#include "OdRxObject.h"
+#include "OdString.h"
+
+#include <memory>
+
+class CKvDrawingStore;
+class OdDbDatabase;
+class OdDbDatabaseReactor;
+class OdDbIdMapping;
+using OdDbDatabasePtr = OdSmartPtr<OdDbDatabase>;
+
+/// An open drawing.
+class KV_HOST_API OdDbDatabase : public OdRxObject
+{
+public:
+    explicit OdDbDatabase(std::unique_ptr<CKvDrawingStore> store);
+    ~OdDbDatabase() override;
+
+    static OdRxClass *desc();
+    OdRxClass *isA() const override;
+
+    /// The file that the drawing was read from; empty for a new one.
+    OdString getFilename() const;
+
+    /// Tables that the file lacks have an id all the same; their records come with the first add.
+    OdDbObjectId getLayerTableId() const;
+    OdDbObjectId getLinetypeTableId() const;
+    OdDbObjectId getTextStyleTableId() const;
+    OdDbObjectId getDimStyleTableId() const;
+    OdDbObjectId getBlockTableId() const;
+    /// Null in a drawing that has no dictionaries (R12 and older).
+    OdDbObjectId getNamedObjectsDictionaryId() const;
+
+    /// The object of that handle, null when there is none.
+    OdDbObjectId getOdDbObjectId(OdDbHandle handle) const;
+    /// Makes a new object, or one of another drawing, part of this one. The object keeps its values;
+    /// what it names in the other drawing (the text styles of a line style) is translated.
+    /// @param handle null for the next free one.
+    OdDbObjectId addOdDbObject(const OdDbObjectPtr &object, OdDbObjectId ownerId, OdDbHandle handle = {});
+
+    /// The current layer, header variable CLAYER.
+    OdDbObjectId getCLAYER() const;
+    void setCLAYER(OdDbObjectId layerId);
+    /// Header variable MEASUREMENT; 0 (inches) when the file has none, otherwise metric.
+    int getMEASUREMENT() const;
+
+    /// Loads a line style from a .lin file.
+    /// @throws OdError 156 when the file can't be opened or has no style of that name, OdError of
+    /// another code when the definition can't be read or the drawing has a style of that name.
+    void loadLineTypeFile(const OdString &name, const OdString &path, int duplicateHandling = 0, int flags = 0);
+
+    /// Clones objects of this drawing into another, with what they name and the other one lacks.
+    /// @param ownerId the table of the destination that takes them.
+    /// @param mapping its destDb is the destination; receives a pair for each clone.
+    void wblockCloneObjects(const OdDbObjectIdArray &ids,
+                            OdDbObjectId ownerId,
+                            OdDbIdMapping &mapping,
+                            OdDb::DuplicateRecordCloning duplicates,
+                            bool deferTranslation = false);
+
+    /// Leaves in the array the ids of the objects that nothing outside the array refers to, so that
+    /// they can be erased. Null ids and what can never be erased leave the array too.
+    void purgeIds(OdDbObjectIdArray &ids) const;
+
+    /// @param reactor not owned; added once however often it is given.
+    void addReactor(OdDbDatabaseReactor *reactor);
+    void removeReactor(OdDbDatabaseReactor *reactor);
+
+    /// The host's own record of the drawing.
+    CKvDrawingStore &store() const { return *m_store; }
+
+private:
+    std::unique_ptr<CKvDrawingStore> m_store;
+};

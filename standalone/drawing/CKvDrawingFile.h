@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "CKvFileImage.h"
+#include "OdDbDatabase.h"
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+
+/// Opens and saves drawings.
+class CKvDrawingFile
+{
+public:
+    /// @throws CKvDxfError with file, line and reason: no such file, no permission, not a drawing,
+    /// damaged.
+    static OdDbDatabasePtr open(const QString &path,
+                                CKvFileImage::Holding holding = CKvFileImage::Holding::Copied);
+    /// A drawing from memory.
+    /// @param name stands for the file in errors; it is the drawing's getFilename.
+    /// @throws CKvDxfError as open.
+    static OdDbDatabasePtr fromBytes(const QByteArray &bytes, const QString &name = QString());
+
+    /// The drawing as a file: what was not changed is as it was, byte for byte.
+    static QByteArray toBytes(const OdDbDatabase &drawing);
+    /// Replaces the file atomically or not at all.
+    /// @throws CKvDxfError; the old file is then as it was.
+    static void save(const OdDbDatabase &drawing, const QString &path);
+
+    /// True when saving would write other bytes than were read.
+    static bool isChanged(const OdDbDatabase &drawing);
+    /// What was tolerated when the file was read, as "line N: reason".
+    static QStringList warnings(const OdDbDatabase &drawing);
+    /// Value of $ACADVER, "AC1009" when the file has none.
+    static QString version(const OdDbDatabase &drawing);
+};
