@@ -8,8 +8,9 @@
 
 class QTextCodec;
 
-/// Turns the text values of one drawing into QString and back. Before R2007 (AC1021) the bytes are in
-/// the code page of $DWGCODEPAGE, from then on in UTF-8; \U+XXXX and \M+nXXXX are decoded in both.
+/// Turns the text values of one drawing into QString and back. Before R2007 (AC1021) the bytes are
+/// in the code page of $DWGCODEPAGE, from then on in UTF-8; \U+XXXX and \M+nXXXX are decoded in
+/// both.
 class CKvTextCodec
 {
 public:
@@ -24,7 +25,10 @@ public:
     /// What the encoding does not have becomes \U+XXXX (UTF-16 units).
     std::string encode(const QString &text) const;
 
-    friend bool operator==(const CKvTextCodec &a, const CKvTextCodec &b) { return a.m_codec == b.m_codec; }
+    friend bool operator==(const CKvTextCodec &a, const CKvTextCodec &b)
+    {
+        return a.m_codec == b.m_codec;
+    }
 
 private:
     /// Null for UTF-8. Not owned: Qt keeps its codecs.

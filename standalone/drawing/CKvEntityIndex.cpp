@@ -1,0 +1,146 @@
+// SPDX-License-Identifier: MIT
+#include "CKvEntityIndex.h"
+
+#include "CKvDrawingStore.h"
+#include "CKvSectionReader.h"
+#include "objectTags.h"
+#include "recordNames.h"
+
+#include <algorithm>
+
+namespace
+{
+
+bool isPartOfEntityBefore(std::string_view type)
+{
+    return type == "VERTEX" || type == "SEQEND";
+}
+
+} // namespace
+
+CKvEntityIndex::CKvEntityIndex(CKvDrawingStore &store)
+    : m_store(store)
+{
+}
+
+bool CKvEntityIndex::readSection(CKvSectionReader &reader)
+{
+    if (reader.sectionName() == "BLOCKS") {
+        readBlocks(reader);
+        return true;
+    }
+    if (reader.sectionName() == "ENTITIES") {
+        readEntities(reader);
+        return true;
+    }
+    return false;
+}
+
+CKvObjectSlot &CKvEntityIndex::makeSlot(const CKvObjectOutline &outline)
+{
+    const bool isEdge = outline.type == "BLOCK" || outline.type == "ENDBLK";
+    const CKvObjectSlot::Role role = isEdge ? CKvObjectSlot::Role::BlockEdge
+        : isPartOfEntityBefore(outline.type)  ? CKvObjectSlot::Role::SubEntity
+                                              : CKvObjectSlot::Role::Entity;
+    CKvObjectSlot &slot = m_store.makeSlot(role, outline.type);
+    slot.begin = outline.begin;
+    slot.end = outline.end;
+    slot.handle = outline.handle;
+    add(slot);
+    return slot;
+}
+
+void CKvEntityIndex::add(CKvObjectSlot &slot)
+{
+    m_all.push_back(&slot);
+    if (slot.handle != 0) {
+        m_isSorted = m_isSorted && (m_byHandle.empty() || m_byHandle.back().first < slot.handle);
+        m_byHandle.emplace_back(slot.handle, &slot);
+        m_largestHandle = std::max(m_largestHandle, slot.handle);
+    }
+}
+
+CKvObjectSlot *CKvEntityIndex::findByHandle(std::uint64_t handle)
+{
+    const auto isLess = [](const auto &a, const auto &b) { return a.first < b.first; };
+    if (!m_isSorted) {
+        // Stable, so that of two objects with one handle the first of the file is found.
+        std::stable_sort(m_byHandle.begin(), m_byHandle.end(), isLess);
+        m_isSorted = true;
+    }
+    const auto found = std::lower_bound(m_byHandle.begin(),
+                                        m_byHandle.end(),
+                                        std::pair<std::uint64_t, CKvObjectSlot *>(handle, nullptr),
+                                        isLess);
+    return found != m_byHandle.end() && found->first == handle ? found->second : nullptr;
+}
+
+CKvObjectSlot &CKvEntityIndex::space(bool isPaper)
+{
+    CKvObjectSlot *&known = m_spaces[isPaper ? 1 : 0];
+    if (!known) {
+        known = &m_store.blockOrNew(isPaper ? QStringLiteral("*Paper_Space") : QStringLiteral("*Model_Space"));
+    }
+    return *known;
+}
+
+CKvObjectSlot &CKvEntityIndex::blockFor(CKvObjectSlot &begin, const CKvObjectOutline &outline)
+{
+    CKvObjectSlot *owner = outline.owner ? m_store.findRecordByHandle(outline.owner) : nullptr;
+    if (owner && m_store.isRecordOf(*owner, CKvTableKind::Block) && !m_contents[owner].begin) {
+        return *owner;
+    }
+    // R12 has no block records, and calls the spaces $MODEL_SPACE and $PAPER_SPACE.
+    QString name = recordName(begin);
+    if (name.compare(QLatin1String("$MODEL_SPACE"), Qt::CaseInsensitive) == 0
+        || name.compare(QLatin1String("$PAPER_SPACE"), Qt::CaseInsensitive) == 0) {
+        name[0] = QLatin1Char('*');
+    }
+    return m_store.blockOrNew(name);
+}
+
+void CKvEntityIndex::readBlocks(CKvSectionReader &reader)
+{
+    CKvObjectOutline outline;
+    CKvObjectSlot *block = nullptr;
+    while (reader.nextObject(outline)) {
+        CKvObjectSlot &slot = makeSlot(outline);
+        if (outline.type == "BLOCK") {
+            block = &blockFor(slot, outline);
+            m_contents[block].begin = &slot;
+        } else if (!block) {
+            reader.warn(outline.begin, QStringLiteral("An entity stands in no block; it is kept."));
+            continue;
+        } else if (outline.type == "ENDBLK") {
+            m_contents[block].end = &slot;
+        } else {
+            m_contents[block].entities.push_back(&slot);
+        }
+        slot.owner = block;
+        if (outline.type == "ENDBLK") {
+            block = nullptr;
+        }
+    }
+    m_blocksEnd = reader.contentEnd();
+}
+
+void CKvEntityIndex::readEntities(CKvSectionReader &reader)
+{
+    CKvObjectOutline outline;
+    CKvObjectSlot *block = nullptr;
+    std::uint64_t lastOwner = 0;
+    CKvBlockContents *contents = nullptr;
+    while (reader.nextObject(outline)) {
+        CKvObjectSlot &slot = makeSlot(outline);
+        const bool isPart = slot.role == CKvObjectSlot::Role::SubEntity || outline.type == "ATTRIB";
+        if (!block || (!isPart && (outline.owner == 0 || outline.owner != lastOwner))) {
+            CKvObjectSlot *owner = outline.owner ? m_store.findRecordByHandle(outline.owner) : nullptr;
+            const bool isBlock = owner && m_store.isRecordOf(*owner, CKvTableKind::Block);
+            block = isBlock ? owner : &space(outline.isInPaperSpace);
+            contents = &m_contents[block];
+            lastOwner = isBlock ? outline.owner : 0;
+        }
+        contents->entities.push_back(&slot);
+        slot.owner = block;
+    }
+}

@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "CKvBlockContents.h"
+
+#include <cstdint>
+#include <unordered_map>
+#include <utility>
+#include <vector>
+
+class CKvDrawingStore;
+class CKvSectionReader;
+struct CKvObjectOutline;
+
+/// The entities of a drawing by block, and by handle. Made at the first walk, from the sections BLOCKS
+/// and ENTITIES.
+class CKvEntityIndex
+{
+public:
+    explicit CKvEntityIndex(CKvDrawingStore &store);
+
+    /// Reads the section that the reader has just entered, if it is one of the two.
+    /// @return false for any other section.
+    bool readSection(CKvSectionReader &reader);
+
+    /// Of a record of the block table. Never null; empty for a block without contents.
+    CKvBlockContents &contentsOf(CKvObjectSlot &block) { return m_contents[&block]; }
+    /// All blocks' edges and entities in the order of the file, then what was added.
+    const std::vector<CKvObjectSlot *> &all() const { return m_all; }
+    CKvObjectSlot *findByHandle(std::uint64_t handle);
+    /// Offset before which entities of BLOCKS and of ENTITIES are added; 0 when the file lacks the section.
+    std::size_t blocksEnd() const { return m_blocksEnd; }
+    std::uint64_t largestHandle() const { return m_largestHandle; }
+    void add(CKvObjectSlot &slot);
+
+private:
+    void readBlocks(CKvSectionReader &reader);
+    void readEntities(CKvSectionReader &reader);
+    CKvObjectSlot &makeSlot(const CKvObjectOutline &outline);
+    CKvObjectSlot &blockFor(CKvObjectSlot &begin, const CKvObjectOutline &outline);
+    CKvObjectSlot &space(bool isPaper);
+    CKvObjectSlot *m_spaces[2] = {};
+
+    CKvDrawingStore &m_store;
+    std::unordered_map<const CKvObjectSlot *, CKvBlockContents> m_contents;
+    std::vector<CKvObjectSlot *> m_all;
+    std::vector<std::pair<std::uint64_t, CKvObjectSlot *>> m_byHandle;
+    bool m_isSorted = true;
+    std::size_t m_blocksEnd = 0;
+    std::uint64_t m_largestHandle = 0;
+};

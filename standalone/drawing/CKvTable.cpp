@@ -1,0 +1,95 @@
+// SPDX-License-Identifier: MIT
+#include "CKvTable.h"
+
+#include "CKvDrawingStore.h"
+#include "recordNames.h"
+
+CKvTable::CKvTable(CKvDrawingStore &store, CKvTableKind kind)
+    : m_store(store)
+    , m_kind(kind)
+    , m_head(&store.makeTableHead(kind))
+{
+}
+
+void CKvTable::add(CKvObjectSlot &record)
+{
+    m_records.push_back(&record);
+    if (!m_index.add(recordName(record), &record)) {
+        m_hasDoubleNames = true;
+    }
+    m_encodedNames.clear();
+}
+
+CKvObjectSlot *CKvTable::find(const QString &name)
+{
+    return m_index.find(name);
+}
+
+CKvObjectSlot *CKvTable::findEncoded(std::string_view encodedName)
+{
+    std::string key(encodedName);
+    const auto known = m_encodedNames.find(key);
+    if (known != m_encodedNames.end()) {
+        return known->second;
+    }
+    CKvObjectSlot *found = find(m_store.format().codec.decode(encodedName));
+    m_encodedNames.emplace(std::move(key), found);
+    return found;
+}
+
+CKvObjectSlot &CKvTable::findOrStandIn(std::string_view encodedName)
+{
+    if (CKvObjectSlot *found = findEncoded(encodedName)) {
+        return *found;
+    }
+    const QString name = m_store.format().codec.decode(encodedName);
+    CKvObjectSlot *standIn = m_standIns.find(name);
+    if (!standIn) {
+        standIn = makeStandIn(name);
+        m_standIns.add(name, standIn);
+    }
+    return *standIn;
+}
+
+CKvObjectSlot *CKvTable::makeStandIn(const QString &name)
+{
+    CKvObjectSlot &slot = m_store.makeSlot(CKvObjectSlot::Role::StandIn, kTableNames[std::size_t(m_kind)]);
+    slot.owner = m_head;
+    std::string &bytes = slot.ownBytes();
+    const CKvTagStyle &style = m_store.format().style;
+    appendTag(bytes, style, 0, kTableNames[std::size_t(m_kind)]);
+    appendTag(bytes, style, 2, m_store.format().codec.encode(name));
+    return &slot;
+}
+
+void CKvTable::nameChanged(CKvObjectSlot &record, const QString &oldName)
+{
+    m_encodedNames.clear();
+    m_index.remove(oldName, &record);
+    if (!m_index.add(recordName(record), &record)) {
+        m_hasDoubleNames = true;
+    }
+    if (m_hasDoubleNames) {
+        rebuild();
+    }
+}
+
+void CKvTable::erasedChanged(CKvObjectSlot &record)
+{
+    m_encodedNames.clear();
+    if (!record.isErased || m_hasDoubleNames) {
+        rebuild();
+    } else {
+        m_index.remove(recordName(record), &record);
+    }
+}
+
+void CKvTable::rebuild()
+{
+    m_index.clear();
+    for (CKvObjectSlot *record : m_records) {
+        if (!record->isErased) {
+            m_index.add(recordName(*record), record);
+        }
+    }
+}

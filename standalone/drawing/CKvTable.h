@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "CKvNameIndex.h"
+#include "CKvTableKind.h"
+
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+class CKvDrawingStore;
+
+/// The records of one table of a drawing.
+class CKvTable
+{
+public:
+    CKvTable(CKvDrawingStore &store, CKvTableKind kind);
+
+    CKvTableKind kind() const { return m_kind; }
+    /// The table as an object; the file may lack it.
+    CKvObjectSlot &head() const { return *m_head; }
+    void setHead(CKvObjectSlot &head) { m_head = &head; }
+    /// Offset in the file before which new records go; 0 when the file lacks the table.
+    std::size_t endInFile() const { return m_endInFile; }
+    void setEndInFile(std::size_t offset) { m_endInFile = offset; }
+    bool isInFile() const { return m_endInFile != 0; }
+    /// True when the number in the table's head (group 70) is that of the records: it is kept true then.
+    bool isCountDeclared() const { return m_isCountDeclared; }
+    void setCountDeclared(bool isDeclared) { m_isCountDeclared = isDeclared; }
+
+    /// In the order of the file, erased ones too.
+    const std::vector<CKvObjectSlot *> &records() const { return m_records; }
+    void add(CKvObjectSlot &record);
+    /// Null when there is none that is not erased.
+    CKvObjectSlot *find(const QString &name);
+    /// As find, by the name as the file spells it; answers are remembered.
+    CKvObjectSlot *findEncoded(std::string_view encodedName);
+    /// As find, or a stand-in of that spelling.
+    CKvObjectSlot &findOrStandIn(std::string_view encodedName);
+
+    /// To be called after a record got another name, was erased or brought back.
+    void nameChanged(CKvObjectSlot &record, const QString &oldName);
+    void erasedChanged(CKvObjectSlot &record);
+
+private:
+    void rebuild();
+    CKvObjectSlot *makeStandIn(const QString &name);
+
+    CKvDrawingStore &m_store;
+    CKvTableKind m_kind;
+    CKvObjectSlot *m_head;
+    std::size_t m_endInFile = 0;
+    bool m_isCountDeclared = false;
+    std::vector<CKvObjectSlot *> m_records;
+    /// The file has, or had, two records of one name; only then does a name that is let go need a search.
+    bool m_hasDoubleNames = false;
+    CKvNameIndex m_index;
+    CKvNameIndex m_standIns;
+    std::unordered_map<std::string, CKvObjectSlot *> m_encodedNames;
+};

@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: MIT
+#include "drawingForm.h"
+
+#include "CKvDxfError.h"
+
+namespace
+{
+
+constexpr std::string_view kBinaryMark("AutoCAD Binary DXF\r\n\x1a\0", 22);
+constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+
+bool startsWith(std::string_view bytes, std::string_view start)
+{
+    return bytes.substr(0, start.size()) == start;
+}
+
+CKvFileForm asciiForm(std::string_view bytes, std::size_t begin)
+{
+    CKvFileForm form;
+    form.begin = begin;
+    const std::size_t lineEnd = bytes.find('\n', begin);
+    if (lineEnd != std::string_view::npos && lineEnd > begin && bytes[lineEnd - 1] == '\r') {
+        form.style.lineEnd = "\r\n";
+    }
+    // A comment, 999, fills its three columns and tells nothing; "  0" or "0" stands further on then.
+    std::size_t at = begin;
+    while (startsWith(trimmed(bytes.substr(at, 5)), "999")) {
+        for (int lines = 0; lines < 2 && at < bytes.size(); ++lines) {
+            at = std::min(bytes.find('\n', at), bytes.size() - 1) + 1;
+        }
+        if (at >= bytes.size()) {
+            break;
+        }
+    }
+    form.style.isCodePadded = at < bytes.size() && bytes[at] == ' ';
+    return form;
+}
+
+} // namespace
+
+CKvFileForm recognisedForm(const CKvFileImage &image)
+{
+    const std::string_view bytes = image.bytes();
+    const auto refuse = [&](const QString &reason) { throw CKvDxfError(image.path(), 0, reason); };
+    if (trimmed(bytes).empty()) {
+        refuse(QStringLiteral("The file is empty."));
+    }
+    if (startsWith(bytes, "AC10") || startsWith(bytes, "AC1.") || startsWith(bytes, "AC2.")) {
+        refuse(QStringLiteral("This is a DWG file. Save it as DXF and try again."));
+    }
+    if (startsWith(bytes, "\x1f\x8b")) {
+        refuse(QStringLiteral("The file is packed with gzip. Unpack it and try again."));
+    }
+    if (startsWith(bytes, "\xFF\xFE") || startsWith(bytes, "\xFE\xFF")) {
+        refuse(QStringLiteral("The file is in UTF-16, which is no form of DXF."));
+    }
+    if (startsWith(bytes, kBinaryMark)) {
+        CKvFileForm form;
+        form.begin = kBinaryMark.size();
+        const bool isShort = bytes.size() > form.begin + 1 && bytes[form.begin + 1] != '\0';
+        form.style.form = isShort ? CKvTagForm::BinaryShortCodes : CKvTagForm::Binary;
+        return form;
+    }
+    return asciiForm(bytes, startsWith(bytes, kByteOrderMark) ? kByteOrderMark.size() : 0);
+}
