@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+#include "walkDrawing.h"
+
+#include "OdDbBlockTableRecord.h"
+#include "OdDbDatabase.h"
+#include "OdDbObjectIterator.h"
+#include "OdDbSymbolTable.h"
+#include "OdDbSymbolTableIterator.h"
+
+void walkTable(OdDbObjectId tableId,
+               OdDb::OpenMode mode,
+               const std::function<void(const OdDbSymbolTableRecordPtr &)> &visit)
+{
+    const OdDbSymbolTablePtr table(tableId.openObject(OdDb::kForRead));
+    if (!table) {
+        return;
+    }
+    const OdDbSymbolTableIteratorPtr records =
+        table->newIterator(/*fromBeginning*/ true, /*skipErased*/ true);
+    for (records->start(/*fromBeginning*/ true, /*skipErased*/ true); !records->done();
+         records->step(/*forward*/ true, /*skipErased*/ true)) {
+        visit(records->getRecord(mode, /*openErased*/ false));
+    }
+}
+
+void walkOwnEntities(const OdDbDatabase &drawing,
+                     const std::function<void(const OdDbEntityPtr &)> &visit)
+{
+    walkTable(
+        drawing.getBlockTableId(), OdDb::kForRead, [&](const OdDbSymbolTableRecordPtr &record) {
+            const OdDbBlockTableRecordPtr block(record);
+            if (block->isFromExternalReference()) {
+                return;
+            }
+            const OdDbObjectIteratorPtr entities = block->newIterator(
+                /*fromBeginning*/ true, /*skipErased*/ true, /*isSorted*/ false);
+            for (entities->start(/*fromBeginning*/ true, /*skipErased*/ true); !entities->done();
+                 entities->step(/*forward*/ true, /*skipErased*/ true)) {
+                visit(entities->entity(OdDb::kForWrite, /*openErased*/ false));
+            }
+        });
+}
