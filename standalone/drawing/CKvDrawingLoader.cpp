@@ -11,7 +11,8 @@
 namespace
 {
 
-/// "AC1015" is 1015; anything else but AC1 and three digits is older than R12; nothing at all is R12.
+/// "AC1015" is 1015; anything else but AC1 and three digits is older than R12; nothing at all is
+/// R12.
 int versionNumber(const std::optional<CKvTag> &variable)
 {
     if (!variable) {
@@ -37,7 +38,8 @@ std::unique_ptr<CKvDrawingStore> CKvDrawingLoader::load()
     format.style = form.style;
     format.version = versionNumber(std::nullopt);
     m_store = std::make_unique<CKvDrawingStore>(m_image, format);
-    CKvSectionReader reader(m_image, form.style.form, form.begin, m_image->bytes().size(), &m_store->m_warnings);
+    CKvSectionReader reader(
+        m_image, form.style.form, form.begin, m_image->bytes().size(), &m_store->m_warnings);
     readSections(reader);
     return std::move(m_store);
 }
@@ -70,6 +72,7 @@ void CKvDrawingLoader::readSections(CKvSectionReader &reader)
             m_store->m_entities->readSection(reader);
         }
     }
+    m_store->m_endOfSections = reader.endOfSections();
     if (!hasSection && reader.position() == m_image->bytes().size() && !reader.hasSeenEof()) {
         reader.fail(0, QStringLiteral("There is no section; this is not a drawing."));
     }
@@ -82,8 +85,8 @@ bool CKvDrawingLoader::postponeEntities(CKvSectionReader &reader)
         return false;
     }
     const std::size_t begin = reader.sectionBegin();
-    const std::size_t objects
-        = findSectionFromEnd(m_image->bytes(), m_store->format().style.form, "OBJECTS", begin);
+    const std::size_t objects =
+        findSectionFromEnd(m_image->bytes(), m_store->format().style.form, "OBJECTS", begin);
     if (objects == std::string_view::npos) {
         return false;
     }
@@ -97,7 +100,8 @@ void CKvDrawingLoader::readHeader(CKvSectionReader &reader)
     const std::size_t begin = reader.contentBegin();
     CKvObjectOutline outline;
     while (reader.nextObject(outline)) {
-        reader.warn(outline.begin, QStringLiteral("An object stands in the header; it is kept and not read."));
+        reader.warn(outline.begin,
+                    QStringLiteral("An object stands in the header; it is kept and not read."));
     }
     CKvObjectSlot &slot = *m_store->m_header;
     slot.begin = begin;
@@ -107,14 +111,17 @@ void CKvDrawingLoader::readHeader(CKvSectionReader &reader)
     const std::optional<CKvTag> codePage = variables.find("$DWGCODEPAGE");
     const std::optional<CKvTag> handling = variables.find("$HANDLING");
     m_store->m_format.version = versionNumber(version);
-    m_store->m_hasHandles = m_store->m_format.hasDictionaries() || (handling && handling->integer() == 1);
-    m_store->m_format.codec = CKvTextCodec::forDrawing(version ? version->word() : std::string_view(),
-                                                       codePage ? codePage->word() : std::string_view());
+    m_store->m_hasHandles =
+        m_store->m_format.hasDictionaries() || (handling && handling->integer() == 1);
+    m_store->m_format.codec =
+        CKvTextCodec::forDrawing(version ? version->word() : std::string_view(),
+                                 codePage ? codePage->word() : std::string_view());
 }
 
 void CKvDrawingLoader::beginTable(CKvSectionReader &reader, const CKvObjectOutline &outline)
 {
-    const std::string_view bytes = m_image->bytes().substr(outline.begin, outline.end - outline.begin);
+    const std::string_view bytes =
+        m_image->bytes().substr(outline.begin, outline.end - outline.begin);
     const std::optional<CKvTag> name = findTag(bytes, m_store->format().style.form, 2);
     if (!name) {
         reader.fail(outline.begin, QStringLiteral("The name of the table is missing."));
@@ -126,7 +133,9 @@ void CKvDrawingLoader::beginTable(CKvSectionReader &reader, const CKvObjectOutli
     }
     m_table = &m_store->table(CKvTableKind(found - kTableNames.begin()));
     if (m_table->isInFile()) {
-        reader.warn(outline.begin, QStringLiteral("The table %1 stands here a second time.").arg(QString::fromLatin1(name->word().data(), int(name->word().size()))));
+        reader.warn(outline.begin,
+                    QStringLiteral("The table %1 stands here a second time.")
+                        .arg(QString::fromLatin1(name->word().data(), int(name->word().size()))));
         return;
     }
     CKvObjectSlot &head = m_table->head();

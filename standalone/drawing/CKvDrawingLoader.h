@@ -9,8 +9,8 @@
 class CKvSectionReader;
 struct CKvObjectOutline;
 
-/// Reads what a drawing's store has to know from the start: header, tables and dictionaries. Blocks and
-/// entities are passed over where their end can be found without reading them.
+/// Reads what a drawing's store has to know from the start: header, tables and dictionaries. Blocks
+/// and entities are passed over where their end can be found without reading them.
 class CKvDrawingLoader
 {
 public:

@@ -40,7 +40,8 @@ CKvEntityIndex &CKvDrawingStore::entities()
 {
     if (!m_entities) {
         auto index = std::make_unique<CKvEntityIndex>(*this);
-        CKvSectionReader reader(m_image, m_format.style.form, m_unreadBegin, m_unreadEnd, &m_warnings);
+        CKvSectionReader reader(
+            m_image, m_format.style.form, m_unreadBegin, m_unreadEnd, &m_warnings);
         while (m_unreadBegin < m_unreadEnd && reader.nextSection()) {
             index->readSection(reader);
         }
@@ -66,7 +67,8 @@ CKvObjectSlot *CKvDrawingStore::findByHandle(std::uint64_t handle)
 
 bool CKvDrawingStore::isRecordOf(const CKvObjectSlot &slot, CKvTableKind kind) const
 {
-    return slot.role == CKvObjectSlot::Role::Record && slot.owner == &m_tables[std::size_t(kind)]->head();
+    return slot.role == CKvObjectSlot::Role::Record
+        && slot.owner == &m_tables[std::size_t(kind)]->head();
 }
 
 CKvObjectSlot &CKvDrawingStore::blockOrNew(const QString &name)
@@ -118,4 +120,27 @@ void CKvDrawingStore::addObject(CKvObjectSlot &slot)
 {
     m_objects.push_back(&slot);
     registerHandle(slot);
+}
+
+CKvObjectSlot *CKvDrawingStore::slotBehind(const CKvObjectSlot &slot)
+{
+    return slot.serial < m_slots.size() ? &m_slots[slot.serial] : nullptr;
+}
+
+CKvObjectSlot &CKvDrawingStore::requireRootDictionary()
+{
+    if (!m_rootDictionary) {
+        CKvObjectSlot &root = makeSlot(CKvObjectSlot::Role::Object, "DICTIONARY");
+        root.handle = newHandle();
+        root.own = std::make_unique<std::string>();
+        appendTag(*root.own, m_format.style, 0, "DICTIONARY");
+        appendTag(*root.own, m_format.style, 5, handleToText(root.handle));
+        appendTag(*root.own, m_format.style, 330, "0");
+        appendTag(*root.own, m_format.style, 100, "AcDbDictionary");
+        appendTag(*root.own, m_format.style, 281, "1");
+        addObject(root);
+        touch(root);
+        m_rootDictionary = &root;
+    }
+    return *m_rootDictionary;
 }

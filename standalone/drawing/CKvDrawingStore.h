@@ -21,8 +21,8 @@ class CKvEntityIndex;
 class OdDbDatabase;
 class OdDbDatabaseReactor;
 
-/// The objects of one drawing on the bytes of its file. Header, tables and dictionaries are known from
-/// the start; blocks and entities from the first call of entities().
+/// The objects of one drawing on the bytes of its file. Header, tables and dictionaries are known
+/// from the start; blocks and entities from the first call of entities().
 class CKvDrawingStore
 {
 public:
@@ -35,9 +35,12 @@ public:
     const CKvFileImagePtr &image() const { return m_image; }
     const CKvDrawingFormat &format() const { return m_format; }
     CKvHeaderVariables header() { return CKvHeaderVariables(*m_header); }
+    CKvObjectSlot &headerSlot() { return *m_header; }
     CKvTable &table(CKvTableKind kind) { return *m_tables[std::size_t(kind)]; }
     /// Null in a drawing without dictionaries.
     CKvObjectSlot *rootDictionary() const { return m_rootDictionary; }
+    /// The same, made when the file has none; saving writes it only with something in it.
+    CKvObjectSlot &requireRootDictionary();
     /// The objects of the section OBJECTS in the order of the file, then the new ones.
     const std::vector<CKvObjectSlot *> &objects() const { return m_objects; }
     /// Reads blocks and entities at the first call.
@@ -71,6 +74,11 @@ public:
     /// Offsets before which new tables and new objects go; 0 when the file lacks the section.
     std::size_t tablesEnd() const { return m_tablesEnd; }
     std::size_t objectsEnd() const { return m_objectsEnd; }
+    /// Offset of the EOF mark, or of the end of the file where it is missing.
+    std::size_t endOfSections() const { return m_endOfSections; }
+    /// The object that stands behind another one in the file, null at the end of those that were
+    /// read.
+    CKvObjectSlot *slotBehind(const CKvObjectSlot &slot);
 
     OdDbDatabase *database = nullptr;
     std::vector<OdDbDatabaseReactor *> reactors;
@@ -93,6 +101,7 @@ private:
     std::size_t m_unreadEnd = 0;
     std::size_t m_tablesEnd = 0;
     std::size_t m_objectsEnd = 0;
+    std::size_t m_endOfSections = 0;
     std::uint64_t m_largestHandle = 0;
     bool m_hasHandles = false;
     QStringList m_warnings;

@@ -39,9 +39,9 @@ bool CKvEntityIndex::readSection(CKvSectionReader &reader)
 CKvObjectSlot &CKvEntityIndex::makeSlot(const CKvObjectOutline &outline)
 {
     const bool isEdge = outline.type == "BLOCK" || outline.type == "ENDBLK";
-    const CKvObjectSlot::Role role = isEdge ? CKvObjectSlot::Role::BlockEdge
-        : isPartOfEntityBefore(outline.type)  ? CKvObjectSlot::Role::SubEntity
-                                              : CKvObjectSlot::Role::Entity;
+    const CKvObjectSlot::Role role = isEdge  ? CKvObjectSlot::Role::BlockEdge
+        : isPartOfEntityBefore(outline.type) ? CKvObjectSlot::Role::SubEntity
+                                             : CKvObjectSlot::Role::Entity;
     CKvObjectSlot &slot = m_store.makeSlot(role, outline.type);
     slot.begin = outline.begin;
     slot.end = outline.end;
@@ -79,7 +79,8 @@ CKvObjectSlot &CKvEntityIndex::space(bool isPaper)
 {
     CKvObjectSlot *&known = m_spaces[isPaper ? 1 : 0];
     if (!known) {
-        known = &m_store.blockOrNew(isPaper ? QStringLiteral("*Paper_Space") : QStringLiteral("*Model_Space"));
+        known = &m_store.blockOrNew(isPaper ? QStringLiteral("*Paper_Space")
+                                            : QStringLiteral("*Model_Space"));
     }
     return *known;
 }
@@ -134,7 +135,8 @@ void CKvEntityIndex::readEntities(CKvSectionReader &reader)
         CKvObjectSlot &slot = makeSlot(outline);
         const bool isPart = slot.role == CKvObjectSlot::Role::SubEntity || outline.type == "ATTRIB";
         if (!block || (!isPart && (outline.owner == 0 || outline.owner != lastOwner))) {
-            CKvObjectSlot *owner = outline.owner ? m_store.findRecordByHandle(outline.owner) : nullptr;
+            CKvObjectSlot *owner =
+                outline.owner ? m_store.findRecordByHandle(outline.owner) : nullptr;
             const bool isBlock = owner && m_store.isRecordOf(*owner, CKvTableKind::Block);
             block = isBlock ? owner : &space(outline.isInPaperSpace);
             contents = &m_contents[block];

@@ -12,8 +12,8 @@ class CKvDrawingStore;
 class CKvSectionReader;
 struct CKvObjectOutline;
 
-/// The entities of a drawing by block, and by handle. Made at the first walk, from the sections BLOCKS
-/// and ENTITIES.
+/// The entities of a drawing by block, and by handle. Made at the first walk, from the sections
+/// BLOCKS and ENTITIES.
 class CKvEntityIndex
 {
 public:
@@ -28,7 +28,8 @@ public:
     /// All blocks' edges and entities in the order of the file, then what was added.
     const std::vector<CKvObjectSlot *> &all() const { return m_all; }
     CKvObjectSlot *findByHandle(std::uint64_t handle);
-    /// Offset before which entities of BLOCKS and of ENTITIES are added; 0 when the file lacks the section.
+    /// Offset before which entities of BLOCKS and of ENTITIES are added; 0 when the file lacks the
+    /// section.
     std::size_t blocksEnd() const { return m_blocksEnd; }
     std::uint64_t largestHandle() const { return m_largestHandle; }
     void add(CKvObjectSlot &slot);

@@ -19,7 +19,8 @@ public:
     {
     }
 
-    /// First value of a variable, "$CLAYER" for instance; the last one when the variable occurs twice.
+    /// First value of a variable, "$CLAYER" for instance; the last one when the variable occurs
+    /// twice.
     std::optional<CKvTag> find(std::string_view name) const;
     /// Replaces the first value. A variable that the header lacks is left out when code is 0,
     /// otherwise it is added with that group code.

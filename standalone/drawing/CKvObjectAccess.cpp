@@ -10,8 +10,7 @@ namespace
 {
 
 /// Over a copy, since a reactor may take itself off.
-template <class Event>
-void tellReactors(const CKvObjectSlot &slot, Event event)
+template <class Event> void tellReactors(const CKvObjectSlot &slot, Event event)
 {
     const std::vector<OdDbDatabaseReactor *> reactors = slot.store->reactors;
     for (OdDbDatabaseReactor *reactor : reactors) {

@@ -6,7 +6,8 @@
 
 #include <string_view>
 
-/// The library's own way into open objects: which slot they stand for, and the events of their life.
+/// The library's own way into open objects: which slot they stand for, and the events of their
+/// life.
 class CKvObjectAccess
 {
 public:
@@ -19,7 +20,8 @@ public:
     /// The slot of an object that is about to change. Tells the reactors at the first change.
     /// @throws OdError_NotOpenForWrite.
     static CKvObjectSlot &beginChange(OdDbObject &object);
-    /// Lets the object stand for another slot, open for writing. A detached slot that it leaves is gone.
+    /// Lets the object stand for another slot, open for writing. A detached slot that it leaves is
+    /// gone.
     static void moveTo(OdDbObject &object, CKvObjectSlot &slot);
     static void close(OdDbObject &object);
     /// Ends the object without telling anybody: it is being destroyed.

@@ -14,8 +14,8 @@ class CKvDrawingStore;
 class OdRxClass;
 struct CKvDrawingFormat;
 
-/// The place of one object in a drawing, the same from the first sight of the object to the end of the
-/// drawing. Its tags are a slice of the file until the first change gives it bytes of its own.
+/// The place of one object in a drawing, the same from the first sight of the object to the end of
+/// the drawing. Its tags are a slice of the file until the first change gives it bytes of its own.
 class CKvObjectSlot
 {
 public:
@@ -50,7 +50,8 @@ public:
     /// Null while the object is in no drawing.
     CKvDrawingStore *store = nullptr;
     OdRxClass *rxClass = nullptr;
-    /// Table of a record, block of an entity; null for other objects, which name their owner in 330.
+    /// Table of a record, block of an entity; null for other objects, which name their owner in
+    /// 330.
     CKvObjectSlot *owner = nullptr;
     std::uint64_t handle = 0;
     /// Offsets in the file; equal for an object that the file does not have.

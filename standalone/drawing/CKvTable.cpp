@@ -53,7 +53,8 @@ CKvObjectSlot &CKvTable::findOrStandIn(std::string_view encodedName)
 
 CKvObjectSlot *CKvTable::makeStandIn(const QString &name)
 {
-    CKvObjectSlot &slot = m_store.makeSlot(CKvObjectSlot::Role::StandIn, kTableNames[std::size_t(m_kind)]);
+    CKvObjectSlot &slot =
+        m_store.makeSlot(CKvObjectSlot::Role::StandIn, kTableNames[std::size_t(m_kind)]);
     slot.owner = m_head;
     std::string &bytes = slot.ownBytes();
     const CKvTagStyle &style = m_store.format().style;

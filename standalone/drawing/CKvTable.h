@@ -25,7 +25,8 @@ public:
     std::size_t endInFile() const { return m_endInFile; }
     void setEndInFile(std::size_t offset) { m_endInFile = offset; }
     bool isInFile() const { return m_endInFile != 0; }
-    /// True when the number in the table's head (group 70) is that of the records: it is kept true then.
+    /// True when the number in the table's head (group 70) is that of the records: it is kept true
+    /// then.
     bool isCountDeclared() const { return m_isCountDeclared; }
     void setCountDeclared(bool isDeclared) { m_isCountDeclared = isDeclared; }
 
@@ -53,7 +54,8 @@ private:
     std::size_t m_endInFile = 0;
     bool m_isCountDeclared = false;
     std::vector<CKvObjectSlot *> m_records;
-    /// The file has, or had, two records of one name; only then does a name that is let go need a search.
+    /// The file has, or had, two records of one name; only then does a name that is let go need a
+    /// search.
     bool m_hasDoubleNames = false;
     CKvNameIndex m_index;
     CKvNameIndex m_standIns;

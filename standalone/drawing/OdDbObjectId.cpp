@@ -20,7 +20,8 @@ OdDbDatabase *OdDbObjectId::database() const
 
 OdDbHandle OdDbObjectId::handle() const
 {
-    return m_slot && m_slot->store && m_slot->store->hasHandles() ? OdDbHandle(m_slot->handle) : OdDbHandle();
+    return m_slot && m_slot->store && m_slot->store->hasHandles() ? OdDbHandle(m_slot->handle)
+                                                                  : OdDbHandle();
 }
 
 OdDbObjectPtr OdDbObjectId::openObject(OdDb::OpenMode mode, bool openErased) const
@@ -50,5 +51,6 @@ bool operator<(OdDbObjectId a, OdDbObjectId b)
     if (a.m_slot->store != b.m_slot->store) {
         return std::less<>()(a.m_slot->store, b.m_slot->store);
     }
-    return std::tie(a.m_slot->handle, a.m_slot->serial) < std::tie(b.m_slot->handle, b.m_slot->serial);
+    return std::tie(a.m_slot->handle, a.m_slot->serial)
+        < std::tie(b.m_slot->handle, b.m_slot->serial);
 }

@@ -22,7 +22,8 @@ CKvFileForm asciiForm(std::string_view bytes, std::size_t begin)
     if (lineEnd != std::string_view::npos && lineEnd > begin && bytes[lineEnd - 1] == '\r') {
         form.style.lineEnd = "\r\n";
     }
-    // A comment, 999, fills its three columns and tells nothing; "  0" or "0" stands further on then.
+    // A comment, 999, fills its three columns and tells nothing; "  0" or "0" stands further on
+    // then.
     std::size_t at = begin;
     while (startsWith(trimmed(bytes.substr(at, 5)), "999")) {
         for (int lines = 0; lines < 2 && at < bytes.size(); ++lines) {

@@ -12,6 +12,6 @@ struct CKvFileForm {
     std::size_t begin = 0;
 };
 
-/// @throws CKvDxfError for what is no DXF file and is recognised: an empty file, DWG, UTF-16, a packed
-/// file.
+/// @throws CKvDxfError for what is no DXF file and is recognised: an empty file, DWG, UTF-16, a
+/// packed file.
 CKvFileForm recognisedForm(const CKvFileImage &image);

@@ -23,8 +23,7 @@
 namespace
 {
 
-template <class T>
-std::unique_ptr<OdRxClass> makeGenericClass(const OdString &type)
+template <class T> std::unique_ptr<OdRxClass> makeGenericClass(const OdString &type)
 {
     const OdString name(QStringLiteral("OdDb") + type.toQString());
     return std::make_unique<OdRxClass>(name, T::desc(), &constructRx<T>, type);
@@ -34,9 +33,12 @@ OdRxClass *genericClass(std::string_view type, CKvObjectSlot::Role role)
 {
     using Role = CKvObjectSlot::Role;
     static std::unordered_map<std::string, std::unique_ptr<OdRxClass>> s_classes[3];
-    const bool isEntity = role == Role::Entity || role == Role::SubEntity || role == Role::BlockEdge;
+    const bool isEntity =
+        role == Role::Entity || role == Role::SubEntity || role == Role::BlockEdge;
     const bool isRecord = role == Role::Record || role == Role::StandIn;
-    std::unique_ptr<OdRxClass> &known = s_classes[isEntity ? 0 : isRecord ? 1 : 2][std::string(type)];
+    std::unique_ptr<OdRxClass> &known = s_classes[isEntity       ? 0
+                                                      : isRecord ? 1
+                                                                 : 2][std::string(type)];
     if (!known) {
         const OdString name(QString::fromLatin1(type.data(), int(type.size())));
         known = isEntity ? makeGenericClass<OdDbEntity>(name)
@@ -76,8 +78,8 @@ OdRxClass *objectClass(std::string_view type, CKvObjectSlot::Role role)
         own = recordClass(type);
     } else if (role == CKvObjectSlot::Role::Object) {
         own = type == "DICTIONARY" || type == "ACDBDICTIONARYWDFLT" ? OdDbDictionary::desc()
-            : type == "XRECORD"                                      ? OdDbXrecord::desc()
-                                                                     : nullptr;
+            : type == "XRECORD"                                     ? OdDbXrecord::desc()
+                                                                    : nullptr;
     }
     return own ? own : genericClass(type, role);
 }

@@ -9,8 +9,7 @@ namespace
 {
 
 /// Calls action for each own tag until it gives false.
-template <class Action>
-void forEachOwnTag(std::string_view bytes, CKvTagForm form, Action action)
+template <class Action> void forEachOwnTag(std::string_view bytes, CKvTagForm form, Action action)
 {
     CKvTagReader reader(bytes, form);
     bool isInBraces = false;

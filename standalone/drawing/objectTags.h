@@ -20,8 +20,10 @@ enum class CKvTagScope {
 };
 
 /// The last tag of that code, since of two groups where one is meant the last one counts.
-std::optional<CKvTag> findTag(std::string_view bytes, CKvTagForm form, int code, CKvTagScope scope = CKvTagScope::Own);
-std::optional<CKvTag> findTag(const CKvObjectSlot &slot, int code, CKvTagScope scope = CKvTagScope::Own);
+std::optional<CKvTag>
+findTag(std::string_view bytes, CKvTagForm form, int code, CKvTagScope scope = CKvTagScope::Own);
+std::optional<CKvTag>
+findTag(const CKvObjectSlot &slot, int code, CKvTagScope scope = CKvTagScope::Own);
 /// All own tags.
 std::vector<CKvTag> ownTags(const CKvObjectSlot &slot);
 /// Offset behind the last own tag.
@@ -33,8 +35,8 @@ struct CKvTagRange {
 };
 std::optional<CKvTagRange> findBracedGroup(const CKvObjectSlot &slot, std::string_view name);
 
-/// Gives a group a value, whatever was there: the last tag of the code, or a new one behind the last own
-/// tag of one of the anchor codes (the first that occurs), or at the end.
+/// Gives a group a value, whatever was there: the last tag of the code, or a new one behind the
+/// last own tag of one of the anchor codes (the first that occurs), or at the end.
 /// @param value as an ASCII file has it.
 void setTag(CKvObjectSlot &slot,
             int code,

@@ -7,7 +7,8 @@
 
 class CKvObjectSlot;
 
-/// Name of a table record, group 2, decoded; blanks at its ends belong to it. Empty when there is none.
+/// Name of a table record, group 2, decoded; blanks at its ends belong to it. Empty when there is
+/// none.
 QString recordName(const CKvObjectSlot &record);
 /// The same as the file spells it.
 std::string_view encodedRecordName(const CKvObjectSlot &record);

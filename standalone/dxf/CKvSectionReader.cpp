@@ -48,6 +48,7 @@ CKvSectionReader::CKvSectionReader(CKvFileImagePtr image,
     , m_reader(m_image->bytes().substr(0, end), form, begin)
     , m_end(end)
     , m_warnings(warnings)
+    , m_endOfSections(end)
 {
 }
 
@@ -90,6 +91,7 @@ bool CKvSectionReader::advance()
 void CKvSectionReader::endAtEof()
 {
     m_hasSeenEof = true;
+    m_endOfSections = m_reader.tag().begin;
     m_isAtEnd = true;
     const std::size_t behind = m_reader.position();
     if (!trimmed(m_image->bytes().substr(behind, m_end - behind)).empty()) {

@@ -54,6 +54,8 @@ public:
 
     std::size_t position() const { return m_reader.position(); }
     bool hasSeenEof() const { return m_hasSeenEof; }
+    /// Offset of the EOF mark, or of the end of the bytes where it is missing.
+    std::size_t endOfSections() const { return m_endOfSections; }
 
     /// @throws CKvDxfError for the place.
     [[noreturn]] void fail(std::size_t offset, const QString &reason) const;
@@ -72,6 +74,7 @@ private:
     std::size_t m_sectionBegin = 0;
     std::size_t m_contentBegin = 0;
     std::size_t m_contentEnd = 0;
+    std::size_t m_endOfSections;
     /// m_reader.tag() is a group 0 that nobody has dealt with yet.
     bool m_hasPending = false;
     bool m_isInSection = false;

@@ -1,0 +1,176 @@
+// SPDX-License-Identifier: MIT
+#include "CKvDrawingWriter.h"
+
+#include "CKvDrawingStore.h"
+#include "CKvEntityIndex.h"
+#include "objectTags.h"
+
+#include <algorithm>
+
+namespace
+{
+
+std::size_t lastingRecords(const CKvTable &table)
+{
+    const auto &records = table.records();
+    return std::size_t(
+        std::count_if(records.begin(), records.end(), [](const CKvObjectSlot *record) {
+            return !record->isErased;
+        }));
+}
+
+} // namespace
+
+CKvDrawingWriter::CKvDrawingWriter(CKvDrawingStore &store)
+    : m_store(store)
+{
+    for (const CKvObjectSlot *slot : store.touched()) {
+        addEdit(*slot);
+    }
+    addTables();
+    addObjectsSection();
+    std::stable_sort(m_edits.begin(), m_edits.end(), [](const Edit &a, const Edit &b) {
+        return a.begin < b.begin;
+    });
+}
+
+std::string_view CKvDrawingWriter::keep(std::string bytes)
+{
+    return m_made.emplace_back(std::move(bytes));
+}
+
+void CKvDrawingWriter::addEdit(const CKvObjectSlot &slot)
+{
+    if (slot.begin == slot.end) {
+        if (!slot.isErased && slot.own) {
+            addNew(slot);
+        }
+        return;
+    }
+    const std::string_view inFile =
+        m_store.image()->bytes().substr(slot.begin, slot.end - slot.begin);
+    if (slot.isErased) {
+        m_edits.push_back({ slot.begin, slot.end, {} });
+    } else if (slot.role != CKvObjectSlot::Role::TableHead && slot.own && *slot.own != inFile) {
+        m_edits.push_back({ slot.begin, slot.end, *slot.own });
+    }
+}
+
+void CKvDrawingWriter::addNew(const CKvObjectSlot &slot)
+{
+    using Role = CKvObjectSlot::Role;
+    switch (slot.role) {
+    case Role::Record:
+        for (std::size_t i = 0; i < kTableCount; ++i) {
+            const CKvTable &table = m_store.table(CKvTableKind(i));
+            if (!m_store.isRecordOf(slot, table.kind())) {
+                continue;
+            }
+            if (table.isInFile()) {
+                m_edits.push_back({ table.endInFile(), table.endInFile(), *slot.own });
+            } else {
+                m_newTables[&table.head()] += *slot.own;
+            }
+        }
+        break;
+    case Role::Object:
+        if (m_store.objectsEnd() != 0) {
+            m_edits.push_back({ m_store.objectsEnd(), m_store.objectsEnd(), *slot.own });
+        } else {
+            m_newObjects += *slot.own;
+            m_hasNewObjects = m_hasNewObjects || &slot != m_store.rootDictionary();
+        }
+        break;
+    case Role::Entity:
+    case Role::SubEntity:
+    case Role::BlockEdge:
+        if (const std::size_t place = placeOfEntity(slot)) {
+            m_edits.push_back({ place, place, *slot.own });
+        }
+        break;
+    case Role::Header:
+    case Role::TableHead:
+    case Role::StandIn:
+    case Role::Detached:
+        break;
+    }
+}
+
+std::size_t CKvDrawingWriter::placeOfEntity(const CKvObjectSlot &slot) const
+{
+    const CKvObjectSlot *end = m_store.entities().contentsOf(*slot.owner).end;
+    return end && end->begin != end->end ? end->begin : m_store.entities().blocksEnd();
+}
+
+void CKvDrawingWriter::addTableCount(CKvTable &table)
+{
+    CKvObjectSlot &head = table.head();
+    std::string bytes(head.bytes());
+    const std::optional<CKvTag> count = findTag(head, 70);
+    // A number that was wrong before is somebody else's; one that was right stays right.
+    if (count && table.isCountDeclared()) {
+        replaceTagValue(bytes, *count, std::to_string(lastingRecords(table)));
+    }
+    const std::string_view inFile =
+        m_store.image()->bytes().substr(head.begin, head.end - head.begin);
+    if (bytes != inFile) {
+        m_edits.push_back({ head.begin, head.end, keep(std::move(bytes)) });
+    }
+}
+
+void CKvDrawingWriter::addTables()
+{
+    const CKvTagStyle &style = m_store.format().style;
+    for (std::size_t i = 0; i < kTableCount; ++i) {
+        CKvTable &table = m_store.table(CKvTableKind(i));
+        if (table.isInFile()) {
+            addTableCount(table);
+            continue;
+        }
+        const auto records = m_newTables.find(&table.head());
+        if (records == m_newTables.end() || m_store.tablesEnd() == 0) {
+            continue;
+        }
+        std::string bytes;
+        appendTag(bytes, style, 0, "TABLE");
+        appendTag(bytes, style, 2, kTableNames[i]);
+        if (m_store.format().hasDictionaries()) {
+            appendTag(bytes, style, 5, handleToText(table.head().handle));
+            appendTag(bytes, style, 330, "0");
+            appendTag(bytes, style, 100, "AcDbSymbolTable");
+        }
+        appendTag(bytes, style, 70, std::to_string(lastingRecords(table)));
+        bytes += records->second;
+        appendTag(bytes, style, 0, "ENDTAB");
+        m_edits.push_back({ m_store.tablesEnd(), m_store.tablesEnd(), keep(std::move(bytes)) });
+    }
+}
+
+void CKvDrawingWriter::addObjectsSection()
+{
+    // A named objects dictionary with nothing in it is no change worth a section.
+    if (!m_hasNewObjects) {
+        return;
+    }
+    const CKvTagStyle &style = m_store.format().style;
+    std::string bytes;
+    appendTag(bytes, style, 0, "SECTION");
+    appendTag(bytes, style, 2, "OBJECTS");
+    bytes += m_newObjects;
+    appendTag(bytes, style, 0, "ENDSEC");
+    m_edits.push_back({ m_store.endOfSections(), m_store.endOfSections(), keep(std::move(bytes)) });
+}
+
+std::vector<std::string_view> CKvDrawingWriter::pieces() const
+{
+    const std::string_view file = m_store.image()->bytes();
+    std::vector<std::string_view> pieces;
+    std::size_t written = 0;
+    for (const Edit &edit : m_edits) {
+        pieces.push_back(file.substr(written, edit.begin - written));
+        pieces.push_back(edit.bytes);
+        written = edit.end;
+    }
+    pieces.push_back(file.substr(written));
+    return pieces;
+}

@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <deque>
+#include <map>
+#include <string>
+#include <string_view>
+#include <vector>
+
+class CKvDrawingStore;
+class CKvObjectSlot;
+class CKvTable;
+
+/// Turns a drawing back into the bytes of a file: the file's own, but for the objects that changed.
+class CKvDrawingWriter
+{
+public:
+    /// @param store must outlive the writer and not change meanwhile.
+    explicit CKvDrawingWriter(CKvDrawingStore &store);
+
+    /// False when the file would be written as it was read.
+    bool isChanged() const { return !m_edits.empty(); }
+    /// The file as a sequence of pieces; views into the store and the writer.
+    std::vector<std::string_view> pieces() const;
+
+private:
+    /// Bytes that take the place of a range of the file; an empty range inserts.
+    struct Edit {
+        std::size_t begin;
+        std::size_t end;
+        std::string_view bytes;
+    };
+
+    void addEdit(const CKvObjectSlot &slot);
+    void addNew(const CKvObjectSlot &slot);
+    std::size_t placeOfEntity(const CKvObjectSlot &slot) const;
+    void addTables();
+    void addTableCount(CKvTable &table);
+    void addObjectsSection();
+    std::string_view keep(std::string bytes);
+
+    CKvDrawingStore &m_store;
+    std::vector<Edit> m_edits;
+    std::deque<std::string> m_made;
+    std::map<const CKvObjectSlot *, std::string> m_newTables;
+    std::string m_newObjects;
+    bool m_hasNewObjects = false;
+};

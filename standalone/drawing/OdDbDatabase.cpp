@@ -1,0 +1,179 @@
+// SPDX-License-Identifier: MIT
+#include "OdDbDatabase.h"
+
+#include "CKvDrawingStore.h"
+#include "CKvEntityIndex.h"
+#include "CKvObjectAccess.h"
+#include "CKvObjectImporter.h"
+#include "OdDbDatabaseReactor.h"
+#include "OdDbIdMapping.h"
+#include "OdDbLinetypeTable.h"
+#include "OdDbLinetypeTableRecord.h"
+#include "lineTypeLoading.h"
+#include "purge.h"
+#include "readLineTypeFile.h"
+#include "recordNames.h"
+#include "rxConstruction.h"
+
+#include <algorithm>
+
+OdDbDatabase::OdDbDatabase(std::unique_ptr<CKvDrawingStore> store)
+    : m_store(std::move(store))
+{
+    m_store->database = this;
+}
+
+OdDbDatabase::~OdDbDatabase() = default;
+
+OdRxClass *OdDbDatabase::desc()
+{
+    static OdRxClass s_class(
+        OdString("OdDbDatabase"), OdRxObject::desc(), nullptr, OdString::kEmpty);
+    return &s_class;
+}
+
+OdRxClass *OdDbDatabase::isA() const
+{
+    return desc();
+}
+
+OdString OdDbDatabase::getFilename() const
+{
+    return OdString(m_store->image()->path());
+}
+
+OdDbObjectId OdDbDatabase::getLayerTableId() const
+{
+    return m_store->table(CKvTableKind::Layer).head().id();
+}
+
+OdDbObjectId OdDbDatabase::getLinetypeTableId() const
+{
+    return m_store->table(CKvTableKind::Linetype).head().id();
+}
+
+OdDbObjectId OdDbDatabase::getTextStyleTableId() const
+{
+    return m_store->table(CKvTableKind::TextStyle).head().id();
+}
+
+OdDbObjectId OdDbDatabase::getDimStyleTableId() const
+{
+    return m_store->table(CKvTableKind::DimStyle).head().id();
+}
+
+OdDbObjectId OdDbDatabase::getBlockTableId() const
+{
+    return m_store->table(CKvTableKind::Block).head().id();
+}
+
+OdDbObjectId OdDbDatabase::getNamedObjectsDictionaryId() const
+{
+    if (!m_store->format().hasDictionaries()) {
+        return OdDbObjectId();
+    }
+    return m_store->requireRootDictionary().id();
+}
+
+OdDbObjectId OdDbDatabase::getOdDbObjectId(OdDbHandle handle) const
+{
+    return m_store->hasHandles() ? OdDbObjectId(m_store->findByHandle(handle.value()))
+                                 : OdDbObjectId();
+}
+
+OdDbObjectId
+OdDbDatabase::addOdDbObject(const OdDbObjectPtr &object, OdDbObjectId ownerId, OdDbHandle handle)
+{
+    if (!object || object->database() == this) {
+        throw OdError(OdResult::kInvalidInput, "There is no object of another drawing to add.");
+    }
+    const bool isRecord = object->isKindOf(OdDbSymbolTableRecord::desc());
+    CKvObjectImporter(*m_store).adopt(*object,
+                                      isRecord ? CKvObjectSlot::Role::Record
+                                               : CKvObjectSlot::Role::Object,
+                                      ownerId.slot(),
+                                      handle.value());
+    CKvObjectAccess::tellAppended(*object);
+    return object->objectId();
+}
+
+OdDbObjectId OdDbDatabase::getCLAYER() const
+{
+    const std::optional<CKvTag> name = m_store->header().find("$CLAYER");
+    return m_store->table(CKvTableKind::Layer)
+        .findOrStandIn(name ? name->value : std::string_view("0"))
+        .id();
+}
+
+void OdDbDatabase::setCLAYER(OdDbObjectId layerId)
+{
+    if (layerId.isNull() || layerId.database() != this) {
+        throw OdError_InvalidSysvarValue("CLAYER");
+    }
+    const std::string name(encodedRecordName(*layerId.slot()));
+    m_store->header().set("$CLAYER", name, 8);
+}
+
+int OdDbDatabase::getMEASUREMENT() const
+{
+    const std::optional<CKvTag> value = m_store->header().find("$MEASUREMENT");
+    return value ? int(value->integer()) : 0;
+}
+
+void OdDbDatabase::loadLineTypeFile(const OdString &name, const OdString &path, int, int)
+{
+    const CKvLineTypeDefinition definition = readLineTypeFile(path.toQString(), name.toQString());
+    OdDbLinetypeTableRecordPtr record = OdDbLinetypeTableRecord::createObject();
+    *CKvObjectAccess::slotOf(*record)->own = lineTypeTags(*m_store, definition);
+    const OdDbLinetypeTablePtr table(getLinetypeTableId().openObject(OdDb::kForWrite));
+    table->add(record);
+}
+
+void OdDbDatabase::wblockCloneObjects(const OdDbObjectIdArray &ids,
+                                      OdDbObjectId ownerId,
+                                      OdDbIdMapping &mapping,
+                                      OdDb::DuplicateRecordCloning duplicates,
+                                      bool)
+{
+    if (!mapping.destDb() || ownerId.isNull() || ownerId.database() != mapping.destDb()) {
+        throw OdError(OdResult::kInvalidInput, "The destination of the clones is not known.");
+    }
+    CKvDrawingStore &destination = mapping.destDb()->store();
+    CKvObjectImporter importer(destination);
+    for (const OdDbObjectId id : ids) {
+        CKvObjectSlot *source = id.slot();
+        for (std::size_t i = 0; source && !source->isErased && i < kTableCount; ++i) {
+            const auto kind = CKvTableKind(i);
+            if (!m_store->isRecordOf(*source, kind)
+                || &destination.table(kind).head() != ownerId.slot()) {
+                continue;
+            }
+            CKvObjectSlot *own = destination.table(kind).find(recordName(*source));
+            if (own && duplicates == OdDb::kReplaceDuplicates) {
+                importer.replaceContent(*own, *source, true, true);
+            } else if (!own) {
+                own = &importer.cloneRecord(*source, kind);
+            }
+            mapping.assign(id, own->id());
+        }
+    }
+}
+
+void OdDbDatabase::purgeIds(OdDbObjectIdArray &ids) const
+{
+    keepPurgeable(*m_store, ids);
+}
+
+void OdDbDatabase::addReactor(OdDbDatabaseReactor *reactor)
+{
+    std::vector<OdDbDatabaseReactor *> &reactors = m_store->reactors;
+    if (reactor && std::find(reactors.begin(), reactors.end(), reactor) == reactors.end()) {
+        reactors.push_back(reactor);
+    }
+}
+
+void OdDbDatabase::removeReactor(OdDbDatabaseReactor *reactor)
+{
+    std::vector<OdDbDatabaseReactor *> &reactors = m_store->reactors;
+    reactors.erase(std::remove(reactors.begin(), reactors.end(), reactor), reactors.end());
+}

@@ -1,0 +1,185 @@
+// SPDX-License-Identifier: MIT
+#include "CKvDrawingStore.h"
+#include "CKvEntityIndex.h"
+#include "CKvObjectAccess.h"
+#include "OdDbBlockTableRecord.h"
+#include "OdDbEntity.h"
+#include "objectTags.h"
+#include "recordNames.h"
+#include "rxConstruction.h"
+
+namespace
+{
+
+constexpr int kExternalReferenceFlags = 4 | 8;
+
+std::string_view encodedLayer(const CKvObjectSlot &slot)
+{
+    const std::optional<CKvTag> layer = findTag(slot, 8, CKvTagScope::EntityPart);
+    return layer ? layer->value : std::string_view("0");
+}
+
+void writeLayer(CKvObjectSlot &slot, std::string_view encodedName)
+{
+    setTag(slot, 8, encodedName, { 100, 67, 330, 5, 0 }, CKvTagScope::EntityPart);
+}
+
+} // namespace
+
+/// The entities of a block as they were when the walk began.
+class CKvEntityWalk
+{
+public:
+    CKvEntityWalk(std::vector<CKvObjectSlot *> entities, bool fromBeginning, bool skipErased)
+        : m_entities(std::move(entities))
+    {
+        start(fromBeginning, skipErased);
+    }
+    void start(bool fromBeginning, bool skipErased)
+    {
+        m_at = fromBeginning ? 0 : std::ptrdiff_t(m_entities.size()) - 1;
+        pass(fromBeginning, skipErased);
+    }
+    bool isDone() const { return m_at < 0 || m_at >= std::ptrdiff_t(m_entities.size()); }
+    void step(bool isForward, bool skipErased)
+    {
+        m_at += isForward ? 1 : -1;
+        pass(isForward, skipErased);
+    }
+    CKvObjectSlot &entity() const
+    {
+        if (isDone()) {
+            throw OdError(OdResult::kInvalidInput, "The walk over the block is done.");
+        }
+        return *m_entities[std::size_t(m_at)];
+    }
+
+private:
+    void pass(bool isForward, bool skipErased)
+    {
+        while (!isDone()) {
+            const CKvObjectSlot &slot = *m_entities[std::size_t(m_at)];
+            if (slot.role == CKvObjectSlot::Role::Entity && !(skipErased && slot.isErased)) {
+                return;
+            }
+            m_at += isForward ? 1 : -1;
+        }
+    }
+
+    std::vector<CKvObjectSlot *> m_entities;
+    std::ptrdiff_t m_at = 0;
+};
+
+OdDbObjectIterator::OdDbObjectIterator(std::unique_ptr<CKvEntityWalk> walk)
+    : m_walk(std::move(walk))
+{
+}
+
+OdDbObjectIterator::~OdDbObjectIterator() = default;
+
+void OdDbObjectIterator::start(bool fromBeginning, bool skipErased)
+{
+    m_walk->start(fromBeginning, skipErased);
+}
+
+bool OdDbObjectIterator::done() const
+{
+    return m_walk->isDone();
+}
+
+void OdDbObjectIterator::step(bool forward, bool skipErased)
+{
+    m_walk->step(forward, skipErased);
+}
+
+OdDbObjectId OdDbObjectIterator::objectId() const
+{
+    return m_walk->entity().id();
+}
+
+OdDbEntityPtr OdDbObjectIterator::entity(OdDb::OpenMode mode, bool openErased) const
+{
+    return OdDbEntityPtr(objectId().openObject(mode, openErased));
+}
+
+OdRxClass *OdDbBlockTableRecord::desc()
+{
+    static OdRxClass s_class(OdString("OdDbBlockTableRecord"),
+                             OdDbSymbolTableRecord::desc(),
+                             &constructRx<OdDbBlockTableRecord>,
+                             OdString("BLOCK_RECORD"));
+    return &s_class;
+}
+
+OdDbBlockTableRecordPtr OdDbBlockTableRecord::cast(const OdRxObject *object)
+{
+    return castRx<OdDbBlockTableRecord>(object);
+}
+
+bool OdDbBlockTableRecord::isFromExternalReference() const
+{
+    CKvObjectSlot &slot = *CKvObjectAccess::slotOf(*this);
+    const CKvObjectSlot *begin = slot.store->entities().contentsOf(slot).begin;
+    const std::optional<CKvTag> flags = begin ? findTag(*begin, 70) : std::nullopt;
+    return flags && (flags->integer() & kExternalReferenceFlags) != 0;
+}
+
+OdDbObjectIteratorPtr
+OdDbBlockTableRecord::newIterator(bool fromBeginning, bool skipErased, bool) const
+{
+    CKvObjectSlot &slot = *CKvObjectAccess::slotOf(*this);
+    auto walk = std::make_unique<CKvEntityWalk>(
+        slot.store->entities().contentsOf(slot).entities, fromBeginning, skipErased);
+    return OdDbObjectIteratorPtr(new OdDbObjectIterator(std::move(walk)), kOdRxObjAttach);
+}
+
+OdRxClass *OdDbEntity::desc()
+{
+    static OdRxClass s_class(
+        OdString("OdDbEntity"), OdDbObject::desc(), &constructRx<OdDbEntity>, OdString::kEmpty);
+    return &s_class;
+}
+
+OdDbEntityPtr OdDbEntity::cast(const OdRxObject *object)
+{
+    return castRx<OdDbEntity>(object);
+}
+
+OdDbObjectId OdDbEntity::layerId() const
+{
+    CKvObjectSlot &slot = *CKvObjectAccess::slotOf(*this);
+    return slot.store->table(CKvTableKind::Layer).findOrStandIn(encodedLayer(slot)).id();
+}
+
+OdString OdDbEntity::layer() const
+{
+    const CKvObjectSlot &slot = *CKvObjectAccess::slotOf(*this);
+    return OdString(slot.format().codec.decode(encodedLayer(slot)));
+}
+
+void OdDbEntity::setLayer(OdDbObjectId layerId, bool doSubents, bool)
+{
+    CKvObjectSlot &slot = CKvObjectAccess::beginChange(*this);
+    if (layerId.isNull() || layerId.slot()->store != slot.store) {
+        throw OdError(OdResult::kInvalidInput, "The layer is not one of this drawing.");
+    }
+    CKvTable &layers = slot.store->table(CKvTableKind::Layer);
+    const CKvObjectSlot *oldLayer = &layers.findOrStandIn(encodedLayer(slot));
+    const std::string name(encodedRecordName(*layerId.slot()));
+    writeLayer(slot, name);
+    if (!doSubents) {
+        return;
+    }
+    // Vertices and the end mark follow; the attributes of an insertion stand between it and its end
+    // mark and are entities of their own.
+    for (CKvObjectSlot *part = slot.store->slotBehind(slot); part && part->owner == slot.owner;
+         part = slot.store->slotBehind(*part)) {
+        if (part->role == CKvObjectSlot::Role::SubEntity) {
+            if (!part->isErased && &layers.findOrStandIn(encodedLayer(*part)) == oldLayer) {
+                writeLayer(*part, name);
+            }
+        } else if (!findTag(*part, 0)->isWord(0, "ATTRIB")) {
+            break;
+        }
+    }
+}

@@ -1,0 +1,211 @@
+// SPDX-License-Identifier: MIT
+#include "CKvDrawingStore.h"
+#include "CKvObjectAccess.h"
+#include "OdDbDimStyleTableRecord.h"
+#include "OdDbLinetypeTableRecord.h"
+#include "OdDbSymbolTableRecord.h"
+#include "OdDbTextStyleTableRecord.h"
+#include "nameUses.h"
+#include "objectTags.h"
+#include "recordNames.h"
+#include "rxConstruction.h"
+
+namespace
+{
+
+CKvTable *tableOf(CKvObjectSlot &record)
+{
+    for (std::size_t i = 0; record.store && i < kTableCount; ++i) {
+        if (record.store->isRecordOf(record, CKvTableKind(i))) {
+            return &record.store->table(CKvTableKind(i));
+        }
+    }
+    return nullptr;
+}
+
+bool isReserved(CKvTableKind kind, const QString &name)
+{
+    const QString folded = foldedName(name);
+    if (kind == CKvTableKind::Layer) {
+        return folded == QLatin1String("0");
+    }
+    return kind == CKvTableKind::Linetype
+        && (folded == QLatin1String("bylayer") || folded == QLatin1String("byblock")
+            || folded == QLatin1String("continuous"));
+}
+
+void requireRename(CKvTable &table,
+                   const CKvObjectSlot &record,
+                   const QString &oldName,
+                   const QString &name)
+{
+    if (isReserved(table.kind(), oldName)) {
+        throw OdError(OdResult::kInvalidInput,
+                      "\"" + oldName.toStdString() + "\" can't be renamed.");
+    }
+    requireValidName(name);
+    const CKvObjectSlot *other = table.find(name);
+    if (other && other != &record) {
+        throw OdError(OdResult::kDuplicateName,
+                      "The drawing has a record of the name \"" + name.toStdString()
+                          + "\" already.");
+    }
+}
+
+/// Rewrites the old name wherever the drawing uses it.
+void rewriteUses(CKvDrawingStore &store,
+                 CKvTableKind kind,
+                 const QString &oldName,
+                 const std::string &newName)
+{
+    const QString folded = foldedName(oldName);
+    forEachSlot(store, [&](CKvObjectSlot &slot) {
+        std::vector<CKvTag> tags;
+        forEachNameUse(slot, CKvUses::All, [&](CKvTableKind used, const CKvTag &tag) {
+            if (used == kind && foldedName(store.format().codec.decode(tag.value)) == folded) {
+                tags.push_back(tag);
+            }
+        });
+        // From the last to the first, so that the offsets of those before stay true.
+        for (auto tag = tags.rbegin(); tag != tags.rend(); ++tag) {
+            replaceTagValue(slot.ownBytes(), *tag, newName);
+        }
+    });
+}
+
+template <class T> OdSmartPtr<T> makeRecord(std::string_view type, std::string_view mark)
+{
+    OdSmartPtr<T> record(new T, kOdRxObjAttach);
+    CKvObjectAccess::makeDetached(*record, type);
+    CKvObjectSlot &slot = *CKvObjectAccess::slotOf(*record);
+    slot.rxClass = T::desc();
+    const CKvTagStyle &style = slot.format().style;
+    appendTag(*slot.own, style, 100, "AcDbSymbolTableRecord");
+    appendTag(*slot.own, style, 100, mark);
+    appendTag(*slot.own, style, 2, "");
+    appendTag(*slot.own, style, 70, "0");
+    return record;
+}
+
+} // namespace
+
+OdRxClass *OdDbSymbolTableRecord::desc()
+{
+    static OdRxClass s_class(OdString("OdDbSymbolTableRecord"),
+                             OdDbObject::desc(),
+                             &constructRx<OdDbSymbolTableRecord>,
+                             OdString::kEmpty);
+    return &s_class;
+}
+
+OdDbSymbolTableRecordPtr OdDbSymbolTableRecord::cast(const OdRxObject *object)
+{
+    return castRx<OdDbSymbolTableRecord>(object);
+}
+
+OdString OdDbSymbolTableRecord::getName() const
+{
+    const CKvObjectSlot *slot = CKvObjectAccess::slotOf(*this);
+    return slot ? OdString(recordName(*slot)) : OdString();
+}
+
+void OdDbSymbolTableRecord::setName(const OdString &name)
+{
+    CKvObjectSlot &slot = *CKvObjectAccess::slotOf(*this);
+    const QString oldName = recordName(slot);
+    const QString newName = name.toQString();
+    if (oldName == newName) {
+        CKvObjectAccess::beginChange(*this);
+        return;
+    }
+    CKvTable *table = tableOf(slot);
+    if (table) {
+        requireRename(*table, slot, oldName, newName);
+    } else {
+        requireValidName(newName);
+    }
+    CKvObjectAccess::beginChange(*this);
+    const std::string encoded = slot.format().codec.encode(newName);
+    setTag(slot, 2, encoded, { 100, 5, 0 });
+    if (table) {
+        table->nameChanged(slot, oldName);
+        rewriteUses(*slot.store, table->kind(), oldName, encoded);
+    }
+}
+
+bool OdDbSymbolTableRecord::isDependent() const
+{
+    constexpr int kDependentFlag = 16;
+    const std::optional<CKvTag> flags = findTag(*CKvObjectAccess::slotOf(*this), 70);
+    return (flags && (flags->integer() & kDependentFlag) != 0)
+        || getName().toQString().contains(QLatin1Char('|'));
+}
+
+OdRxClass *OdDbLinetypeTableRecord::desc()
+{
+    static OdRxClass s_class(OdString("OdDbLinetypeTableRecord"),
+                             OdDbSymbolTableRecord::desc(),
+                             &constructRx<OdDbLinetypeTableRecord>,
+                             OdString("LTYPE"));
+    return &s_class;
+}
+
+OdDbLinetypeTableRecordPtr OdDbLinetypeTableRecord::cast(const OdRxObject *object)
+{
+    return castRx<OdDbLinetypeTableRecord>(object);
+}
+
+OdDbLinetypeTableRecordPtr OdDbLinetypeTableRecord::createObject()
+{
+    return makeRecord<OdDbLinetypeTableRecord>("LTYPE", "AcDbLinetypeTableRecord");
+}
+
+int OdDbLinetypeTableRecord::numDashes() const
+{
+    const std::optional<CKvTag> count = findTag(*CKvObjectAccess::slotOf(*this), 73);
+    return count ? int(count->integer()) : 0;
+}
+
+double OdDbLinetypeTableRecord::patternLength() const
+{
+    const std::optional<CKvTag> length = findTag(*CKvObjectAccess::slotOf(*this), 40);
+    return length ? length->real() : 0;
+}
+
+OdRxClass *OdDbTextStyleTableRecord::desc()
+{
+    static OdRxClass s_class(OdString("OdDbTextStyleTableRecord"),
+                             OdDbSymbolTableRecord::desc(),
+                             &constructRx<OdDbTextStyleTableRecord>,
+                             OdString("STYLE"));
+    return &s_class;
+}
+
+OdDbTextStyleTableRecordPtr OdDbTextStyleTableRecord::cast(const OdRxObject *object)
+{
+    return castRx<OdDbTextStyleTableRecord>(object);
+}
+
+OdDbTextStyleTableRecordPtr OdDbTextStyleTableRecord::createObject()
+{
+    return makeRecord<OdDbTextStyleTableRecord>("STYLE", "AcDbTextStyleTableRecord");
+}
+
+OdRxClass *OdDbDimStyleTableRecord::desc()
+{
+    static OdRxClass s_class(OdString("OdDbDimStyleTableRecord"),
+                             OdDbSymbolTableRecord::desc(),
+                             &constructRx<OdDbDimStyleTableRecord>,
+                             OdString("DIMSTYLE"));
+    return &s_class;
+}
+
+OdDbDimStyleTableRecordPtr OdDbDimStyleTableRecord::cast(const OdRxObject *object)
+{
+    return castRx<OdDbDimStyleTableRecord>(object);
+}
+
+OdDbDimStyleTableRecordPtr OdDbDimStyleTableRecord::createObject()
+{
+    return makeRecord<OdDbDimStyleTableRecord>("DIMSTYLE", "AcDbDimStyleTableRecord");
+}
