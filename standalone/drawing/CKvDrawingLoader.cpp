@@ -5,6 +5,7 @@
 #include "CKvSectionReader.h"
 #include "drawingForm.h"
 #include "objectTags.h"
+#include "recordNames.h"
 
 #include <algorithm>
 
@@ -22,6 +23,22 @@ int versionNumber(const std::optional<CKvTag> &variable)
     const bool isVersion = word.size() == 6 && word.substr(0, 3) == "AC1"
         && word.find_first_not_of("0123456789", 2) == std::string_view::npos;
     return isVersion ? std::stoi(std::string(word.substr(2))) : 1000;
+}
+
+/// ByLayer and ByBlock, model and paper space: many writers leave them out when they count.
+std::size_t reservedRecords(const CKvTable &table)
+{
+    const auto &records = table.records();
+    return std::size_t(
+        std::count_if(records.begin(), records.end(), [&](const CKvObjectSlot *record) {
+            const QString name = foldedName(recordName(*record));
+            if (table.kind() == CKvTableKind::Block) {
+                return name.startsWith(QLatin1String("*model_space"))
+                    || name.startsWith(QLatin1String("*paper_space"));
+            }
+            return table.kind() == CKvTableKind::Linetype
+                && (name == QLatin1String("bylayer") || name == QLatin1String("byblock"));
+        }));
 }
 
 } // namespace
@@ -153,12 +170,17 @@ void CKvDrawingLoader::endTable(CKvSectionReader &reader, std::size_t offset)
     m_table->setEndInFile(offset);
     const std::optional<CKvTag> count = findTag(m_table->head(), 70);
     const std::size_t records = m_table->records().size();
-    m_table->setCountDeclared(count && std::size_t(count->integer(-1)) == records);
-    if (count && std::size_t(count->integer(-1)) != records) {
+    const std::size_t declared = count ? std::size_t(count->integer()) : records;
+    if (count && declared == records) {
+        m_table->setUncountedRecords(0);
+    } else if (count && declared + reservedRecords(*m_table) == records) {
+        m_table->setUncountedRecords(reservedRecords(*m_table));
+    } else if (count) {
+        const std::string_view name = kTableNames[std::size_t(m_table->kind())];
         reader.warn(m_table->head().begin,
                     QStringLiteral("The table %1 declares %2 records and has %3.")
-                        .arg(QLatin1String(kTableNames[std::size_t(m_table->kind())].data()))
-                        .arg(count->integer(-1))
+                        .arg(QString::fromLatin1(name.data(), int(name.size())))
+                        .arg(count->integer())
                         .arg(records));
     }
     m_table = nullptr;

@@ -95,8 +95,15 @@ std::uint64_t CKvDrawingStore::newHandle()
         handle = std::max(handle, seed->handle());
     }
     m_largestHandle = handle;
-    header().set("$HANDSEED", handleToText(handle + 1));
     return handle;
+}
+
+void CKvDrawingStore::writeHandleSeed()
+{
+    const std::optional<CKvTag> seed = header().find("$HANDSEED");
+    if (seed && seed->handle() <= m_largestHandle) {
+        header().set("$HANDSEED", handleToText(m_largestHandle + 1));
+    }
 }
 
 void CKvDrawingStore::registerHandle(CKvObjectSlot &slot)

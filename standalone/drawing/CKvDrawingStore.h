@@ -60,8 +60,11 @@ public:
     /// @param type the word behind group 0.
     CKvObjectSlot &makeSlot(CKvObjectSlot::Role role, std::string_view type);
     CKvObjectSlot &makeTableHead(CKvTableKind kind);
-    /// A handle that no object has; the header's HANDSEED goes up.
+    /// A handle that no object has.
     std::uint64_t newHandle();
+    /// Lets the header's HANDSEED lie above the handles that were given. Left to saving, since an
+    /// object that is not written needs no handle.
+    void writeHandleSeed();
     void registerHandle(CKvObjectSlot &slot);
     /// Puts a slot into the list of what saving has to look at.
     void touch(CKvObjectSlot &slot);

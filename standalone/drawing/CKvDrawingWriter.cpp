@@ -19,13 +19,25 @@ std::size_t lastingRecords(const CKvTable &table)
         }));
 }
 
+bool needsNewHandle(const CKvObjectSlot &slot)
+{
+    const bool isNew = slot.begin == slot.end && slot.role != CKvObjectSlot::Role::Header;
+    return isNew && slot.own && !slot.isErased && slot.handle != 0;
+}
+
 } // namespace
 
 CKvDrawingWriter::CKvDrawingWriter(CKvDrawingStore &store)
     : m_store(store)
 {
-    for (const CKvObjectSlot *slot : store.touched()) {
-        addEdit(*slot);
+    if (std::any_of(store.touched().begin(), store.touched().end(), [&](const CKvObjectSlot *slot) {
+            return needsNewHandle(*slot) && slot != store.rootDictionary();
+        })) {
+        store.writeHandleSeed();
+    }
+    // By number: the header may join the list meanwhile.
+    for (std::size_t i = 0; i < store.touched().size(); ++i) {
+        addEdit(*store.touched()[i]);
     }
     addTables();
     addObjectsSection();
@@ -108,8 +120,9 @@ void CKvDrawingWriter::addTableCount(CKvTable &table)
     std::string bytes(head.bytes());
     const std::optional<CKvTag> count = findTag(head, 70);
     // A number that was wrong before is somebody else's; one that was right stays right.
-    if (count && table.isCountDeclared()) {
-        replaceTagValue(bytes, *count, std::to_string(lastingRecords(table)));
+    if (count && table.uncountedRecords()) {
+        const std::size_t number = lastingRecords(table) - *table.uncountedRecords();
+        replaceTagValue(bytes, *count, std::to_string(number));
     }
     const std::string_view inFile =
         m_store.image()->bytes().substr(head.begin, head.end - head.begin);

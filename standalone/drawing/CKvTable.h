@@ -4,6 +4,7 @@
 #include "CKvNameIndex.h"
 #include "CKvTableKind.h"
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -52,7 +53,7 @@ private:
     CKvTableKind m_kind;
     CKvObjectSlot *m_head;
     std::size_t m_endInFile = 0;
-    bool m_isCountDeclared = false;
+    std::optional<std::size_t> m_uncounted;
     std::vector<CKvObjectSlot *> m_records;
     /// The file has, or had, two records of one name; only then does a name that is let go need a
     /// search.

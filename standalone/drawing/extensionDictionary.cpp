@@ -82,6 +82,7 @@ void requireHandle(CKvObjectSlot &slot)
               code,
               handleToText(slot.handle));
     slot.store->registerHandle(slot);
+    slot.store->writeHandleSeed();
 }
 
 void insertExtensionGroup(CKvObjectSlot &slot, std::uint64_t dictionary)
