@@ -26,10 +26,10 @@ public:
     std::size_t endInFile() const { return m_endInFile; }
     void setEndInFile(std::size_t offset) { m_endInFile = offset; }
     bool isInFile() const { return m_endInFile != 0; }
-    /// True when the number in the table's head (group 70) is that of the records: it is kept true
-    /// then.
-    bool isCountDeclared() const { return m_isCountDeclared; }
-    void setCountDeclared(bool isDeclared) { m_isCountDeclared = isDeclared; }
+    /// How many records the number in the table's head (group 70) leaves out; it is kept true then.
+    /// None when the number is missing or wrong.
+    std::optional<std::size_t> uncountedRecords() const { return m_uncounted; }
+    void setUncountedRecords(std::size_t count) { m_uncounted = count; }
 
     /// In the order of the file, erased ones too.
     const std::vector<CKvObjectSlot *> &records() const { return m_records; }
