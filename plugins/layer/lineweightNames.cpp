@@ -6,12 +6,12 @@
 namespace
 {
 
-struct LineweightName {
+struct CKvLineweightName {
     int hundredthsOfMillimetre;
     const char *name;
 };
 
-constexpr LineweightName kMillimetreNames[] = {
+constexpr CKvLineweightName kMillimetreNames[] = {
     { 0, "0.00 mm" },   { 5, "0.05 mm" },   { 9, "0.09 mm" },   { 13, "0.13 mm" },
     { 15, "0.15 mm" },  { 18, "0.18 mm" },  { 20, "0.20 mm" },  { 25, "0.25 mm" },
     { 30, "0.30 mm" },  { 35, "0.35 mm" },  { 40, "0.40 mm" },  { 50, "0.50 mm" },
@@ -20,12 +20,12 @@ constexpr LineweightName kMillimetreNames[] = {
     { 140, "1.40 mm" }, { 158, "1.58 mm" }, { 200, "2.00 mm" }, { 211, "2.11 mm" },
 };
 
-struct LineweightWord {
+struct CKvLineweightWord {
     OdDb::LineWeight lineWeight;
     const char *word;
 };
 
-constexpr LineweightWord kWords[] = {
+constexpr CKvLineweightWord kWords[] = {
     { OdDb::kLineWeightByBlock, "ByBlock" },
     { OdDb::kLineWeightByLayer, "ByLayer" },
     { OdDb::kLineWeightByDefault, "ByDefault" },
@@ -43,7 +43,7 @@ CKvString ConvertLineweightToName(OdDb::LineWeight lineWeight)
     case OdDb::kLineWeightByLayer:
         return CKvString("ByLayer");
     }
-    for (const LineweightName &entry : kMillimetreNames) {
+    for (const CKvLineweightName &entry : kMillimetreNames) {
         if (entry.hundredthsOfMillimetre == lineWeight) {
             return CKvString(entry.name);
         }
@@ -54,8 +54,8 @@ CKvString ConvertLineweightToName(OdDb::LineWeight lineWeight)
 bool ConvertNameToLineweight(CKvString name, OdDb::LineWeight &lineWeight)
 {
     const QString &text = name.toQString();
-    const LineweightWord *meant = nullptr;
-    for (const LineweightWord &entry : kWords) {
+    const CKvLineweightWord *meant = nullptr;
+    for (const CKvLineweightWord &entry : kWords) {
         if (!QString(QLatin1String(entry.word)).contains(text, Qt::CaseInsensitive)) {
             continue;
         }
@@ -68,7 +68,7 @@ bool ConvertNameToLineweight(CKvString name, OdDb::LineWeight &lineWeight)
         lineWeight = meant->lineWeight;
         return true;
     }
-    for (const LineweightName &entry : kMillimetreNames) {
+    for (const CKvLineweightName &entry : kMillimetreNames) {
         if (text.compare(QLatin1String(entry.name), Qt::CaseInsensitive) == 0) {
             lineWeight = OdDb::LineWeight(entry.hundredthsOfMillimetre);
             break;
