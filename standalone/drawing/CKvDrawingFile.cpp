@@ -6,6 +6,7 @@
 #include "CKvDrawingWriter.h"
 #include "CKvDxfError.h"
 
+#include <QFileInfo>
 #include <QSaveFile>
 
 namespace
@@ -41,6 +42,11 @@ QByteArray CKvDrawingFile::toBytes(const OdDbDatabase &drawing)
 
 void CKvDrawingFile::save(const OdDbDatabase &drawing, const QString &path)
 {
+    const QFileInfo target(path);
+    if (target.exists() && !target.isFile()) {
+        throw CKvDxfError(
+            path, 0, QStringLiteral("The file can't be written: it is a folder or a device."));
+    }
     const CKvDrawingWriter writer(drawing.store());
     QSaveFile file(path);
     const auto refuse = [&] {

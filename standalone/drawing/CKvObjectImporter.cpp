@@ -76,7 +76,7 @@ bool CKvObjectImporter::isAllowed(int code) const
 std::string CKvObjectImporter::translatedText(const CKvObjectSlot &source,
                                               std::string_view value) const
 {
-    const bool isPlain = value.find_first_of("\\") == std::string_view::npos
+    const bool isPlain = value.find('\\') == std::string_view::npos
         && std::all_of(value.begin(), value.end(), [](char c) {
                              return static_cast<unsigned char>(c) < 128;
                          });
@@ -284,7 +284,7 @@ CKvObjectSlot &CKvObjectImporter::cloneEntity(CKvObjectSlot &source, CKvObjectSl
     slot.handle = m_destination.hasHandles() ? m_destination.newHandle() : 0;
     slot.isNew = true;
     bringNames(source);
-    slot.ownBytes() = translated(source, slot.handle, block.handle, {});
+    slot.own = std::make_unique<std::string>(translated(source, slot.handle, block.handle, {}));
     m_destination.entities().add(slot);
     return slot;
 }
@@ -304,6 +304,17 @@ void CKvObjectImporter::cloneContents(CKvObjectSlot &sourceBlock, CKvObjectSlot 
     }
     if (contents.end) {
         index.contentsOf(block).end = &cloneEntity(*contents.end, block);
+    }
+    // Only now, so that blocks that came along stand before this one and not within it.
+    const CKvBlockContents &copies = index.contentsOf(block);
+    if (copies.begin) {
+        m_destination.touch(*copies.begin);
+    }
+    for (CKvObjectSlot *entity : copies.entities) {
+        m_destination.touch(*entity);
+    }
+    if (copies.end) {
+        m_destination.touch(*copies.end);
     }
 }
 

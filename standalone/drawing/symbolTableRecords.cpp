@@ -113,7 +113,7 @@ void OdDbSymbolTableRecord::setName(const OdString &name)
 {
     CKvObjectSlot &slot = *CKvObjectAccess::slotOf(*this);
     const QString oldName = recordName(slot);
-    const QString newName = name.toQString();
+    const QString &newName = name.toQString();
     if (oldName == newName) {
         CKvObjectAccess::beginChange(*this);
         return;
