@@ -61,7 +61,8 @@ void CKvDrawingFile::save(const OdDbDatabase &drawing, const QString &path)
             refuse();
         }
     }
-    if (!file.commit()) {
+    // Committing would lose a failure to write what is still in the buffer, and replace the file.
+    if (!file.flush() || !file.commit()) {
         refuse();
     }
 }
