@@ -120,9 +120,9 @@ TEST(Cloning, ARecordOfANameThatIsTakenIsReplacedAndKeepsIdAndHandle)
     EXPECT_EQ(tableOf(drawing->getLinetypeTableId())->getAt(OdString("DASHED")), old);
     EXPECT_EQ(lineStyleOf(drawing, "DASHED")->getName().toQString(), QStringLiteral("DASHED"));
     EXPECT_EQ(lineStyleOf(drawing, "DASHED")->numDashes(), 4);
-    const OdDbObjectId again =
-        tableOf(reopened(drawing)->getLinetypeTableId())->getAt(OdString("DASHED"));
-    EXPECT_EQ(again.handle(), old.handle());
+    const OdDbDatabasePtr again = reopened(drawing);
+    EXPECT_EQ(tableOf(again->getLinetypeTableId())->getAt(OdString("DASHED")).handle(),
+              old.handle());
 }
 
 TEST(Cloning, ABlockComesWithItsContentsAndWhatTheyName)
