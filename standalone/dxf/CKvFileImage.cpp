@@ -64,14 +64,13 @@ CKvFileImagePtr CKvFileImage::open(const QString &path, Holding holding)
             path, 0, QStringLiteral("The file can't be opened: %1.").arg(file.errorString()));
     }
     const qint64 size = file.size();
-    const uchar *mapped =
-        holding == Holding::Mapped && size > 0 ? file.map(0, size) : nullptr;
+    const uchar *mapped = holding == Holding::Mapped && size > 0 ? file.map(0, size) : nullptr;
     if (mapped) {
-        image->m_bytes = {reinterpret_cast<const char *>(mapped), std::size_t(size)};
+        image->m_bytes = { reinterpret_cast<const char *>(mapped), std::size_t(size) };
     } else {
         // Also what some file systems give in place of a mapping.
         image->m_copy = readWhole(file, path);
-        image->m_bytes = {image->m_copy.constData(), std::size_t(image->m_copy.size())};
+        image->m_bytes = { image->m_copy.constData(), std::size_t(image->m_copy.size()) };
     }
     // A mapping outlives the closing; a check of many drawings would run out of open files.
     file.close();
@@ -85,7 +84,7 @@ CKvFileImagePtr CKvFileImage::fromBytes(const QByteArray &bytes, const QString &
 {
     const std::shared_ptr<CKvFileImage> image(new CKvFileImage(name));
     image->m_copy = bytes;
-    image->m_bytes = {image->m_copy.constData(), std::size_t(image->m_copy.size())};
+    image->m_bytes = { image->m_copy.constData(), std::size_t(image->m_copy.size()) };
     return image;
 }
 
