@@ -33,6 +33,8 @@ public:
         kDxfBool = 290,
     };
 
+    ~OdResBuf() override;
+
     static OdRxClass *desc();
     OdRxClass *isA() const override;
     /// @throws OdError 255 when the class is not registered.

@@ -1,0 +1,4 @@
+// SPDX-License-Identifier: MIT
+#include "OdString.h"
+
+const OdString OdString::kEmpty;
