@@ -1,0 +1,311 @@
+// SPDX-License-Identifier: MIT
+#include "CKvContractClasses.h"
+#include "CKvDrawingFile.h"
+#include "CKvDxfError.h"
+#include "CKvLayerPluginImpl.h"
+#include "CKvStandaloneServices.h"
+#include "OdDbBlockTable.h"
+#include "OdDbBlockTableRecord.h"
+#include "OdDbLayerTable.h"
+#include "OdDbLayerTableRecord.h"
+#include "OdDbLinetypeTable.h"
+#include "auditText.h"
+#include "realDrawings.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QMap>
+#include <QProcess>
+#include <QSet>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <functional>
+
+namespace
+{
+
+OdDbLayerTablePtr layersOf(const OdDbDatabasePtr &drawing)
+{
+    return OdDbLayerTablePtr(drawing->getLayerTableId().openObject());
+}
+
+/// Drawings of R2000 and newer, opened anew at each call; those that can't be read are not in the
+/// list.
+QStringList newerDrawings()
+{
+    QStringList paths;
+    for (const QString &path : realDrawings()) {
+        try {
+            const OdDbDatabasePtr drawing = CKvDrawingFile::open(path);
+            if (CKvDrawingFile::version(*drawing) >= QLatin1String("AC1015")
+                && !layersOf(drawing)->newIterator()->done()) {
+                paths.append(path);
+            }
+        } catch (const CKvDxfError &) {
+            continue;
+        }
+    }
+    return paths;
+}
+
+/// The drawing itself as a standard, after a change.
+void writeStandards(const QString &drawing,
+                    const QString &path,
+                    const std::function<void(OdDbLayerTableRecordPtr)> &change)
+{
+    const OdDbDatabasePtr standards = CKvDrawingFile::open(drawing);
+    const OdDbLayerTablePtr layers = layersOf(standards);
+    for (OdDbSymbolTableIteratorPtr walk = layers->newIterator(); !walk->done(); walk->step()) {
+        const OdDbLayerTableRecordPtr layer(walk->getRecord(OdDb::kForWrite));
+        if (!layer->isDependent()) {
+            change(layer);
+        }
+    }
+    CKvDrawingFile::save(*standards, path);
+}
+
+/// How many entities of all blocks that are not external references stand on each layer.
+QMap<QString, int> entitiesByLayer(const OdDbDatabasePtr &drawing)
+{
+    QMap<QString, int> counts;
+    const OdDbBlockTablePtr blocks(drawing->getBlockTableId().openObject());
+    for (OdDbSymbolTableIteratorPtr walk = blocks->newIterator(); !walk->done(); walk->step()) {
+        const OdDbBlockTableRecordPtr block(walk->getRecord());
+        if (block->isFromExternalReference()) {
+            continue;
+        }
+        for (OdDbObjectIteratorPtr entities = block->newIterator(); !entities->done();
+             entities->step()) {
+            ++counts[entities->entity()->layer().toQString().toLower()];
+        }
+    }
+    return counts;
+}
+
+/// Lines of one file that the other does not have, each as often as it is missing.
+QMap<QByteArray, int> missingLines(const QByteArray &from, const QByteArray &in)
+{
+    QMap<QByteArray, int> counts;
+    for (const QByteArray &line : from.split('\n')) {
+        ++counts[line.trimmed()];
+    }
+    for (const QByteArray &line : in.split('\n')) {
+        --counts[line.trimmed()];
+    }
+    for (auto count = counts.begin(); count != counts.end();) {
+        count = count.value() > 0 ? std::next(count) : counts.erase(count);
+    }
+    return counts;
+}
+
+struct CKvLayerRepairOnRealDrawings : testing::Test {
+    QString fileIn(const QString &drawing, const QString &what)
+    {
+        const QString name =
+            QString::number(++m_files) + QLatin1Char('-') + QFileInfo(drawing).completeBaseName();
+        return folder.filePath(QString(name + QLatin1Char('-') + what + QStringLiteral(".dxf")));
+    }
+    /// Repairs what the audit finds, each violation with the candidate that choose gives (-1:
+    /// none).
+    OdDbDatabasePtr repaired(const QString &path,
+                             const QString &standards,
+                             const std::function<int(const CKvStdsViolation &)> &choose)
+    {
+        OdDbDatabasePtr drawing = CKvDrawingFile::open(path);
+        repairs = 0;
+        for (const CKvStdsViolation &violation : audit(plugin, drawing, { standards })) {
+            const int choice = choose(violation);
+            if (choice >= 0 && !violation.error->objectId().isErased()) {
+                CKvString message;
+                plugin.applyFix(violation.error, violation.fixes[unsigned(choice)], message);
+                ++repairs;
+            }
+        }
+        return drawing;
+    }
+    void keepForAudit(const QString &before, const OdDbDatabasePtr &drawing)
+    {
+        const QString after = fileIn(before, QStringLiteral("after"));
+        CKvDrawingFile::save(*drawing, after);
+        pairs.append(QString(before + QLatin1Char('\t') + after));
+    }
+    void expectNoNewErrors()
+    {
+        QProcess python;
+        python.start(QStringLiteral(KV_PYTHON), { QStringLiteral(KV_COMPARE_AUDITS) });
+        if (!python.waitForStarted()) {
+            GTEST_SKIP() << "python3 is missing; the audits were not compared";
+        }
+        python.write(pairs.join(QLatin1Char('\n')).toUtf8());
+        python.closeWriteChannel();
+        ASSERT_TRUE(python.waitForFinished(280000));
+        const QByteArray complaints = python.readAllStandardError();
+        if (complaints.contains("No module named 'ezdxf'")) {
+            GTEST_SKIP() << "python3-ezdxf is missing; the audits were not compared";
+        }
+        const QStringList lines =
+            QString::fromUtf8(python.readAllStandardOutput()).trimmed().split(QLatin1Char('\n'));
+        EXPECT_EQ(lines.size(), 1)
+            << lines.join(QLatin1Char('\n')).toStdString() << complaints.toStdString();
+        EXPECT_FALSE(lines.last().startsWith(QLatin1String("0 compared")))
+            << lines.last().toStdString();
+        std::printf("%s\n", qPrintable(lines.last()));
+    }
+
+    CKvContractClasses classes;
+    CKvStandaloneServices services;
+    CKvLayerPluginImpl plugin;
+    QTemporaryDir folder;
+    QStringList pairs;
+    int repairs = 0;
+
+private:
+    int m_files = 0;
+};
+
+} // namespace
+
+TEST_F(CKvLayerRepairOnRealDrawings, InPlaceOnlyTheValuesOfTheLayersChange)
+{
+    for (const QString &path : newerDrawings()) {
+        SCOPED_TRACE(path.toStdString());
+        const QString standards = fileIn(path, QStringLiteral("standards"));
+        writeStandards(path, standards, [](const OdDbLayerTableRecordPtr &layer) {
+            layer->setColor(OdCmColor::byIndex(layer->color().colorIndex() == 3 ? 5 : 3));
+            layer->setLineWeight(OdDb::LineWeight(70));
+        });
+
+        const OdDbDatabasePtr drawing = repaired(
+            path, standards, [](const CKvStdsViolation &found) { return found.recommendedFix; });
+
+        EXPECT_TRUE(audit(plugin, drawing, { standards }).empty());
+        QFile file(path);
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+        const QByteArray before = file.readAll();
+        keepForAudit(path, drawing);
+        if (before.contains('\0')) {
+            // A binary drawing has no lines to compare.
+            continue;
+        }
+        const QByteArray after = CKvDrawingFile::toBytes(*drawing);
+        // A colour and a lineweight a repair, and where there was none their group codes.
+        const QSet<QByteArray> allowed { "3", "5", "-3", "-5", "70", "370" };
+        for (const QByteArray &line : missingLines(after, before).keys()) {
+            EXPECT_TRUE(allowed.contains(line)) << line.toStdString();
+        }
+        int lost = 0;
+        for (const int count : missingLines(before, after)) {
+            lost += count;
+        }
+        EXPECT_LE(lost, 4 * repairs);
+    }
+    expectNoNewErrors();
+}
+
+TEST_F(CKvLayerRepairOnRealDrawings, ARenameKeepsTheIdTheEntitiesAndTheCurrentLayer)
+{
+    for (const QString &path : newerDrawings()) {
+        SCOPED_TRACE(path.toStdString());
+        const QString standards = fileIn(path, QStringLiteral("standards"));
+        int number = 0;
+        writeStandards(path, standards, [&](const OdDbLayerTableRecordPtr &layer) {
+            const QString name = layer->getName().toQString();
+            if (name != QLatin1String("0")
+                && name.compare(QLatin1String("Defpoints"), Qt::CaseInsensitive) != 0) {
+                layer->setName(OdString(QStringLiteral("NEW-%1").arg(++number)));
+            }
+        });
+        const OdDbDatabasePtr untouched = CKvDrawingFile::open(path);
+        QList<int> countsBefore = entitiesByLayer(untouched).values();
+        QSet<QString> taken;
+
+        const OdDbDatabasePtr drawing =
+            repaired(path, standards, [&](const CKvStdsViolation &found) {
+                if (found.error->objectName().toQString() == QLatin1String("0")) {
+                    return -1;
+                }
+                for (unsigned i = 0; i < found.fixes.size(); ++i) {
+                    const QString name = found.fixes[i]->name().toQString();
+                    if (name.startsWith(QLatin1String("NEW-")) && !taken.contains(name)) {
+                        taken.insert(name);
+                        return int(i);
+                    }
+                }
+                return -1;
+            });
+
+        const OdDbDatabasePtr again = CKvDrawingFile::fromBytes(CKvDrawingFile::toBytes(*drawing));
+        QList<int> countsAfter = entitiesByLayer(again).values();
+        std::sort(countsBefore.begin(), countsBefore.end());
+        std::sort(countsAfter.begin(), countsAfter.end());
+        EXPECT_EQ(countsAfter, countsBefore);
+        EXPECT_EQ(again->getCLAYER().handle(), untouched->getCLAYER().handle());
+        for (OdDbSymbolTableIteratorPtr walk = layersOf(untouched)->newIterator(); !walk->done();
+             walk->step()) {
+            const OdDbHandle handle = walk->getRecordId().handle();
+            EXPECT_TRUE(handle.isNull() || !again->getOdDbObjectId(handle).isNull());
+        }
+        keepForAudit(path, drawing);
+    }
+    expectNoNewErrors();
+}
+
+TEST_F(CKvLayerRepairOnRealDrawings,
+       AMergeMovesTheEntitiesSwitchesTheCurrentLayerAndRemovesTheOldOnes)
+{
+    int merged = 0;
+    for (const QString &path : newerDrawings()) {
+        SCOPED_TRACE(path.toStdString());
+        const QString standards = fileIn(path, QStringLiteral("standards"));
+        writeStandards(path, standards, [](const OdDbLayerTableRecordPtr &layer) {
+            if (layer->getName().toQString() != QLatin1String("0")) {
+                layer->erase();
+            }
+        });
+        const OdDbDatabasePtr untouched = CKvDrawingFile::open(path);
+        int total = 0;
+        for (const int count : entitiesByLayer(untouched)) {
+            total += count;
+        }
+        QStringList gone;
+
+        const OdDbDatabasePtr drawing =
+            repaired(path, standards, [&](const CKvStdsViolation &found) {
+                const bool isOther = !found.fixes.isEmpty() && found.recommendedFix < 0
+                    && found.fixes[0]->name().toQString() == QLatin1String("0");
+                if (isOther) {
+                    gone.append(found.error->objectName().toQString());
+                }
+                return isOther ? 0 : -1;
+            });
+
+        merged += gone.size();
+        const OdDbDatabasePtr again = CKvDrawingFile::fromBytes(CKvDrawingFile::toBytes(*drawing));
+        const QMap<QString, int> counts = entitiesByLayer(again);
+        int totalAfter = 0;
+        for (const int count : counts) {
+            totalAfter += count;
+        }
+        EXPECT_EQ(totalAfter, total);
+        for (const QString &name : gone) {
+            EXPECT_EQ(counts.value(name.toLower()), 0) << name.toStdString();
+            const OdDbSymbolTableRecordPtr current(again->getCLAYER().openObject());
+            EXPECT_NE(current->getName().toQString().toLower(), name.toLower());
+        }
+        keepForAudit(path, drawing);
+    }
+    EXPECT_GT(merged, 10);
+    expectNoNewErrors();
+}
+
+TEST(RealDrawings, AreThere)
+{
+    EXPECT_FALSE(realDrawings().isEmpty());
+    if (!hasOtherPeoplesDrawings()) {
+        GTEST_SKIP()
+            << "the folder with other people's drawings is missing; only samples/ were tried";
+    }
+}
