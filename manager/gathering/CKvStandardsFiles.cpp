@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: MIT
+#include "CKvStandardsFiles.h"
+
+#include "CKvStandardsSettings.h"
+#include "CKvSystemServices.h"
+#include "OdDbDatabase.h"
+#include "OdDbHostAppServices.h"
+#include "standardsList.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+
+#include <algorithm>
+
+void CKvStandardsFiles::clear()
+{
+    m_paths.clear();
+    m_names.clear();
+    m_missing.clear();
+    m_listed.clear();
+    m_preferred = CKvString();
+}
+
+void CKvStandardsFiles::load(OdDbDatabase &database, CKvSystemServices &services)
+{
+    clear();
+    m_preferred = services.standardsSettings()->preferredStandardsFile();
+    for (const CKvString &stored : readStandardsList(database, ForeignListEntry::PassOver)) {
+        addListed(stored, database, services);
+    }
+    putPreferredFirst(services);
+}
+
+void CKvStandardsFiles::addListed(const CKvString &stored,
+                                  OdDbDatabase &database,
+                                  CKvSystemServices &services)
+{
+    CKvString path = stored;
+    path.replace(QLatin1Char('\\'), QLatin1Char('/'));
+    m_listed.push_back(path);
+    // Only the listed path is tested for doubles: two that the search leads to one file count
+    // twice.
+    if (std::find(m_paths.begin(), m_paths.end(), path) != m_paths.end()) {
+        return;
+    }
+    if (path.equalNoCase(m_preferred)) {
+        // It comes first, or not at all when it isn't where the setting says.
+        if (!QFileInfo::exists(m_preferred.toQString())) {
+            m_missing.push_back(stored);
+        }
+        return;
+    }
+    const QFileInfo listed(path.toQString());
+    if (listed.exists()) {
+        add(path.toQString());
+        return;
+    }
+    const CKvString found = services.findFile(CKvString(listed.fileName()), 0, &database, 0);
+    if (!found.isEmpty() && QFileInfo::exists(found.toQString())) {
+        add(found.toQString());
+    } else {
+        m_missing.push_back(stored);
+    }
+}
+
+void CKvStandardsFiles::putPreferredFirst(CKvSystemServices &services)
+{
+    const auto isPreferred = [this](const CKvString &listed) {
+        return listed.equalNoCase(m_preferred);
+    };
+    const CKvString none(QCoreApplication::translate("CKvStdsManagerImpl", "None"));
+    if (m_preferred.equalNoCase(none)
+        || std::none_of(m_listed.begin(), m_listed.end(), isPreferred)) {
+        return;
+    }
+    // The setting's text stays as it is, and is not searched elsewhere.
+    const QFileInfo preferred(m_preferred.toQString());
+    if (!preferred.exists()) {
+        return;
+    }
+    services.hostAppServices()->readFile(
+        m_preferred.toOdString(), false, true, kShareReadWrite, OdString::kEmpty);
+    m_paths.insert(m_paths.begin(), m_preferred);
+    m_names.insert(m_names.begin(), CKvString(preferred.fileName()));
+}
+
+void CKvStandardsFiles::add(const QString &path)
+{
+    m_paths.emplace_back(path);
+    m_names.emplace_back(QFileInfo(path).fileName());
+}

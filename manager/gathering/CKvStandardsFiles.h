@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "CKvString.h"
+
+#include <vector>
+
+class CKvSystemServices;
+class OdDbDatabase;
+
+/// The standards files of one drawing, found. Two lists of the same length: what stands at one
+/// place in both is the same file. The preferred file comes first, the others in the order of the
+/// drawing.
+class CKvStandardsFiles
+{
+public:
+    /// Reads the drawing's list and searches the files. What was held before is dropped first.
+    /// @throws OdError_NotThatKindOfClass for a damaged list, and what reading the preferred file
+    /// throws.
+    void load(OdDbDatabase &database, CKvSystemServices &services);
+    void clear();
+
+    const std::vector<CKvString> &paths() const { return m_paths; }
+    /// The bare file names.
+    const std::vector<CKvString> &names() const { return m_names; }
+    /// Listed files that were found nowhere, as the drawing stores them, in the order of the list.
+    const std::vector<CKvString> &missing() const { return m_missing; }
+
+private:
+    void addListed(const CKvString &stored, OdDbDatabase &database, CKvSystemServices &services);
+    void putPreferredFirst(CKvSystemServices &services);
+    void add(const QString &path);
+
+    std::vector<CKvString> m_paths;
+    std::vector<CKvString> m_names;
+    std::vector<CKvString> m_missing;
+    /// All listed paths with forward slashes, found or not.
+    std::vector<CKvString> m_listed;
+    CKvString m_preferred;
+};
