@@ -19,6 +19,7 @@ void CKvStandardsFiles::clear()
     m_missing.clear();
     m_listed.clear();
     m_preferred = CKvString();
+    m_storedPreferred = CKvString();
 }
 
 void CKvStandardsFiles::load(OdDbDatabase &database, CKvSystemServices &services)
@@ -44,10 +45,7 @@ void CKvStandardsFiles::addListed(const CKvString &stored,
         return;
     }
     if (path.equalNoCase(m_preferred)) {
-        // It comes first, or not at all when it isn't where the setting says.
-        if (!QFileInfo::exists(m_preferred.toQString())) {
-            m_missing.push_back(stored);
-        }
+        m_storedPreferred = stored;
         return;
     }
     const QFileInfo listed(path.toQString());
@@ -68,14 +66,14 @@ void CKvStandardsFiles::putPreferredFirst(CKvSystemServices &services)
     const auto isPreferred = [this](const CKvString &listed) {
         return listed.equalNoCase(m_preferred);
     };
-    const CKvString none(QCoreApplication::translate("CKvStdsManagerImpl", "None"));
-    if (m_preferred.equalNoCase(none)
-        || std::none_of(m_listed.begin(), m_listed.end(), isPreferred)) {
+    if (std::none_of(m_listed.begin(), m_listed.end(), isPreferred)) {
         return;
     }
     // The setting's text stays as it is, and is not searched elsewhere.
+    const CKvString none(QCoreApplication::translate("CKvStdsManagerImpl", "None"));
     const QFileInfo preferred(m_preferred.toQString());
-    if (!preferred.exists()) {
+    if (m_preferred.equalNoCase(none) || !preferred.exists()) {
+        m_missing.push_back(m_storedPreferred);
         return;
     }
     services.hostAppServices()->readFile(

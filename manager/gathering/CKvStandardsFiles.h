@@ -23,7 +23,8 @@ public:
     const std::vector<CKvString> &paths() const { return m_paths; }
     /// The bare file names.
     const std::vector<CKvString> &names() const { return m_names; }
-    /// Listed files that were found nowhere, as the drawing stores them, in the order of the list.
+    /// Listed files that are not to be had, as the drawing stores them: those found nowhere, in the
+    /// order of the list, then a preferred one that isn't where the setting says.
     const std::vector<CKvString> &missing() const { return m_missing; }
 
 private:
@@ -37,4 +38,6 @@ private:
     /// All listed paths with forward slashes, found or not.
     std::vector<CKvString> m_listed;
     CKvString m_preferred;
+    /// The preferred file as the drawing lists it.
+    CKvString m_storedPreferred;
 };
