@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: MIT
+#include "CKvCategory.h"
+
+#include "CKvLayerPluginImpl.h"
+#include "CKvUsageError.h"
+
+#include <QStringList>
+
+#include <algorithm>
+#include <array>
+
+namespace
+{
+
+/// The order is that of the checks and of every report.
+constexpr std::array<CKvCategory, 4> kCategories = { {
+    { "dimstyles",
+      "dimension style",
+      nullptr,
+      nullptr,
+      nullptr,
+      &OdDbDatabase::getDimStyleTableId },
+    { "layers",
+      "layer",
+      &CKvLayerPluginImpl::desc,
+      &CKvLayerPluginImpl::rxInit,
+      &CKvLayerPluginImpl::rxUninit,
+      &OdDbDatabase::getLayerTableId },
+    { "linestyles", "line style", nullptr, nullptr, nullptr, &OdDbDatabase::getLinetypeTableId },
+    { "textstyles", "text style", nullptr, nullptr, nullptr, &OdDbDatabase::getTextStyleTableId },
+} };
+
+QString wordsOfAll()
+{
+    QStringList words;
+    for (const CKvCategory &category : kCategories) {
+        words << QString::fromLatin1(category.word);
+    }
+    return words.join(QStringLiteral(", "));
+}
+
+} // namespace
+
+const std::vector<const CKvCategory *> &allCategories()
+{
+    static const std::vector<const CKvCategory *> s_all = [] {
+        std::vector<const CKvCategory *> all;
+        for (const CKvCategory &category : kCategories) {
+            all.push_back(&category);
+        }
+        return all;
+    }();
+    return s_all;
+}
+
+const CKvCategory &categoryOf(const QString &word)
+{
+    for (const CKvCategory &category : kCategories) {
+        if (word != QLatin1String(category.word)) {
+            continue;
+        }
+        if (!category.isAvailable()) {
+            throw CKvUsageError(QStringLiteral("This version can't check %1 yet.").arg(word));
+        }
+        return category;
+    }
+    throw CKvUsageError(QStringLiteral("There is no category \"%1\". The categories are %2.")
+                            .arg(word, wordsOfAll()));
+}
+
+std::vector<const CKvCategory *> categoriesOf(const QStringList &words)
+{
+    std::vector<const CKvCategory *> asked;
+    for (const QString &word : words) {
+        asked.push_back(&categoryOf(word));
+    }
+    std::vector<const CKvCategory *> chosen;
+    for (const CKvCategory &category : kCategories) {
+        const bool isAsked = std::find(asked.begin(), asked.end(), &category) != asked.end();
+        if (words.isEmpty() ? category.isAvailable() : isAsked) {
+            chosen.push_back(&category);
+        }
+    }
+    return chosen;
+}

@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "CKvBatchOptions.h"
+
+#include <QString>
+
+#include <cstdio>
+
+/// Makes the standard streams carry bytes as they are written, UTF-8 where a console asks for a
+/// code page.
+void prepareStandardStreams();
+bool isTerminal(std::FILE *stream);
+/// Whether to write colours to standard output: under Auto to a terminal only, and not when
+/// NO_COLOR is set.
+bool wantsColor(CKvWhen when);
+/// A line on standard error, in UTF-8.
+void printError(const QString &line);
+/// Text on standard output, in UTF-8.
+void printOutput(const QString &text);

@@ -1,0 +1,7 @@
+// SPDX-License-Identifier: MIT
+#include "toolVersion.h"
+
+const char *toolVersion()
+{
+    return KV_VERSION;
+}
