@@ -40,7 +40,8 @@ def new_drawing(version, line_styles=(), encoding=None):
     doc.layers.remove("Defpoints")
     for name in line_styles:
         description, pattern = LINE_STYLES[name]
-        length = sum(abs(part) for part in pattern)
+        # Rounded, so that no digits of binary fractions show in the file.
+        length = round(sum(abs(part) for part in pattern), 6)
         doc.linetypes.add(name, [length] + pattern, description=description)
     return doc
 
