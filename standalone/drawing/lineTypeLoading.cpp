@@ -12,6 +12,14 @@ namespace
 constexpr int kIsAbsolute = 1;
 constexpr int kIsText = 2;
 
+/// 12.7 and 6.35 add up to 19.049999999999997; nobody who reads the file wants to know that.
+double withoutSumErrors(double length)
+{
+    constexpr double kDigits = 1e10;
+    const double rounded = std::round(length * kDigits) / kDigits;
+    return std::isfinite(rounded) ? rounded : length;
+}
+
 void appendElementStyle(std::string &tags,
                         CKvDrawingStore &store,
                         const CKvLineTypeDefinition::Element &element)
@@ -57,7 +65,7 @@ std::string lineTypeTags(CKvDrawingStore &store, const CKvLineTypeDefinition &de
     appendTag(tags, plain, 3, CKvTextCodec().encode(definition.description));
     appendTag(tags, plain, 72, "65");
     appendTag(tags, plain, 73, std::to_string(definition.elements.size()));
-    appendTag(tags, plain, 40, realToText(length));
+    appendTag(tags, plain, 40, realToText(withoutSumErrors(length)));
     for (const CKvLineTypeDefinition::Element &element : definition.elements) {
         const int flags = (element.kind == Kind::Text ? kIsText : 0)
             | (element.kind != Kind::Plain && element.isRotationAbsolute ? kIsAbsolute : 0);
