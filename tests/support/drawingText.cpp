@@ -60,8 +60,8 @@ std::string entityLayersText(const OdDbDatabase &drawing)
         const OdDbObjectIteratorPtr entities = block->newIterator();
         for (; !entities->done(); entities->step()) {
             const OdDbEntityPtr entity = entities->entity();
-            text += toStdString(block->getName()) + ' ' + entity->isA()->nameUtf8() + ' '
-                + toStdString(entity->layer()) + '\n';
+            text += toStdString(block->getName()) + ' ' + toStdString(entity->isA()->dxfName())
+                + ' ' + toStdString(entity->layer()) + '\n';
         }
     });
     return text;

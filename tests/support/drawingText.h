@@ -12,7 +12,7 @@
 std::string layersText(const OdDbDatabase &drawing);
 /// The names in a table: tableText(drawing, drawing.getLinetypeTableId()).
 std::string namesText(OdDbObjectId tableId);
-/// Block, class and layer of every entity: "*Model_Space OdDbLine WALLS".
+/// Block, type and layer of every entity: "*Model_Space LINE WALLS".
 std::string entityLayersText(const OdDbDatabase &drawing);
 /// Name of an object, open or not; empty for null.
 std::string nameOf(OdDbObjectId id);

@@ -1,0 +1,137 @@
+// SPDX-License-Identifier: MIT
+#include "CKvLayerTest.h"
+#include "CKvStdsLayerRecord.h"
+#include "lineweightNames.h"
+
+#include <random>
+
+namespace
+{
+
+/// Gives its records to the test.
+class CKvOpenPlugin : public CKvLayerPluginImpl
+{
+public:
+    using CKvLayerPluginImpl::records;
+};
+
+/// Judges and offers by walking all records each time: slow, and without an index.
+class CKvPlainChoice
+{
+public:
+    explicit CKvPlainChoice(const CKvOpenPlugin &plugin)
+        : m_plugin(plugin)
+    {
+    }
+
+    /// As violationsText, for one violation.
+    std::string line(const CKvStdsErrorPtr &error) const
+    {
+        std::vector<const CKvStdsLayerRecord *> offered;
+        for (const CKvStdsRecord *record : m_plugin.records()) {
+            const auto *layer = static_cast<const CKvStdsLayerRecord *>(record);
+            const bool isName = error->message() == m_plugin.nameMessage();
+            if (isName ? isOfferedForName(error, *layer) : isOfferedForProperties(error, *layer)) {
+                offered.push_back(layer);
+            }
+        }
+        return error->objectName().toQString().toStdString() + ": "
+            + error->message().toQString().toStdString() + candidates(error, offered) + '\n';
+    }
+
+private:
+    static CKvString text(const CKvStdsErrorPtr &error, const char *property)
+    {
+        return CKvString(error->property(CKvString(property))->getString());
+    }
+    static bool isOfferedForName(const CKvStdsErrorPtr &error, const CKvStdsLayerRecord &record)
+    {
+        return record.name.compare(text(error, "Name")) != 0
+            && record.name.compareNoCase(CKvString("Defpoints")) != 0;
+    }
+    static bool isOfferedForProperties(const CKvStdsErrorPtr &error,
+                                       const CKvStdsLayerRecord &record)
+    {
+        for (const char *tied : { "0", "Defpoints" }) {
+            if (text(error, "Name") == CKvString(tied) && record.name != CKvString(tied)) {
+                return false;
+            }
+        }
+        OdDb::LineWeight lineWeight = OdDb::kLineWeightByDefault;
+        ConvertNameToLineweight(text(error, "LineWeight"), lineWeight);
+        return record.color != error->property(CKvString("LineColor"))->getColor()
+            || record.lineStyleName.compareNoCase(text(error, "LineStyle")) != 0
+            || record.lineWeight != lineWeight;
+    }
+    static std::string candidates(const CKvStdsErrorPtr &error,
+                                  const std::vector<const CKvStdsLayerRecord *> &offered)
+    {
+        std::string text;
+        bool isStarred = false;
+        for (const CKvStdsLayerRecord *record : offered) {
+            text += ' ' + record->name.toQString().toStdString() + '@'
+                + record->standardsFile.toQString().toStdString();
+            if (!isStarred && record->name.equalNoCase(error->objectName())) {
+                isStarred = true;
+                text += '*';
+            }
+        }
+        return text;
+    }
+
+    const CKvOpenPlugin &m_plugin;
+};
+
+const char *const kNames[] = { "0",     "Defpoints", "DEFPOINTS", "WALLS", "walls",  "Walls",
+                               "DOORS", "doors",     "Wände",     "WÄNDE", "Straße", "STRASSE",
+                               "ATTIC", "CELLAR",    "*HIDDEN",   "A|B" };
+
+void addLayers(CKvDrawingBuilder &drawing, int count, std::mt19937 &random)
+{
+    const auto pick = [&random](int below) { return int(random() % unsigned(below)); };
+    for (int i = 0; i < count; ++i) {
+        CKvLayerBuilder &layer = drawing.layer(kNames[pick(16)]);
+        switch (pick(4)) {
+        case 0:
+            layer.trueColor(pick(2), 0, 0, 1 + pick(2));
+            break;
+        case 1:
+            layer.trueColor(1, 0, 0, 1).colorBook(pick(2) == 0 ? "RAL$1000" : "RAL$2000");
+            break;
+        default:
+            layer.color(1 + pick(2));
+        }
+        layer.lineWeight(std::array<int, 4> { -3, 25, 30, 33 }[std::size_t(pick(4))]);
+        layer.lineStyle(
+            std::array<const char *, 3> { "DASHED", "Dashed", "CENTER" }[std::size_t(pick(3))]);
+    }
+}
+
+class LayerSampledCandidates : public CKvLayerTest, public testing::WithParamInterface<unsigned>
+{
+};
+
+} // namespace
+
+TEST_P(LayerSampledCandidates, AreThoseOfAPlainWalkOverAllRecords)
+{
+    std::mt19937 random(GetParam());
+    CKvDrawingBuilder firm;
+    addLayers(m_drawing, 25, random);
+    addLayers(m_office, 12, random);
+    addLayers(firm, 12, random);
+    m_services.setDrawing("/office.dxf", m_office);
+    m_services.setDrawing("/firm.dxf", firm);
+    CKvOpenPlugin plugin;
+
+    const auto violations = audit(
+        plugin, m_drawing.open(), { QStringLiteral("/office.dxf"), QStringLiteral("/firm.dxf") });
+
+    ASSERT_FALSE(violations.empty());
+    const CKvPlainChoice plain(plugin);
+    for (const CKvStdsViolation &violation : violations) {
+        EXPECT_EQ(violationsText({ violation }), plain.line(violation.error));
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Drawings, LayerSampledCandidates, testing::Range(1U, 61U));
