@@ -25,7 +25,13 @@ CKvObjectSlot &CKvDrawingStore::makeSlot(CKvObjectSlot::Role role, std::string_v
     slot.store = this;
     slot.role = role;
     slot.serial = std::uint32_t(m_slots.size());
-    slot.rxClass = objectClass(type, role);
+    // Objects of one kind stand together, so the class of the one before is mostly the one wanted.
+    if (type != m_lastType || role != m_lastRole) {
+        m_lastClass = objectClass(type, role);
+        m_lastType = type;
+        m_lastRole = role;
+    }
+    slot.rxClass = m_lastClass;
     return slot;
 }
 

@@ -92,6 +92,9 @@ private:
     CKvFileImagePtr m_image;
     CKvDrawingFormat m_format;
     std::deque<CKvObjectSlot> m_slots;
+    std::string m_lastType;
+    CKvObjectSlot::Role m_lastRole = CKvObjectSlot::Role::Detached;
+    OdRxClass *m_lastClass = nullptr;
     CKvObjectSlot *m_header;
     std::array<std::unique_ptr<CKvTable>, kTableCount> m_tables;
     CKvObjectSlot *m_rootDictionary = nullptr;

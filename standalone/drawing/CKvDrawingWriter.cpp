@@ -41,9 +41,10 @@ CKvDrawingWriter::CKvDrawingWriter(CKvDrawingStore &store)
     }
     addTables();
     addObjectsSection();
-    std::stable_sort(m_edits.begin(), m_edits.end(), [](const Edit &a, const Edit &b) {
-        return a.begin < b.begin;
-    });
+    const auto isBefore = [](const Edit &a, const Edit &b) { return a.begin < b.begin; };
+    if (!std::is_sorted(m_edits.begin(), m_edits.end(), isBefore)) {
+        std::stable_sort(m_edits.begin(), m_edits.end(), isBefore);
+    }
 }
 
 std::string_view CKvDrawingWriter::keep(std::string bytes)

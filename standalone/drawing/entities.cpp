@@ -4,6 +4,7 @@
 #include "CKvObjectAccess.h"
 #include "OdDbBlockTableRecord.h"
 #include "OdDbEntity.h"
+#include "objectClasses.h"
 #include "objectTags.h"
 #include "recordNames.h"
 #include "rxConstruction.h"
@@ -172,14 +173,15 @@ void OdDbEntity::setLayer(OdDbObjectId layerId, bool doSubents, bool)
     }
     // Vertices and the end mark follow; the attributes of an insertion stand between it and its end
     // mark and are entities of their own.
+    static const OdRxClass *const s_attribute = objectClass("ATTRIB", CKvObjectSlot::Role::Entity);
     for (CKvObjectSlot *part = slot.store->slotBehind(slot); part && part->owner == slot.owner;
          part = slot.store->slotBehind(*part)) {
-        if (part->role == CKvObjectSlot::Role::SubEntity) {
-            if (!part->isErased && &layers.findOrStandIn(encodedLayer(*part)) == oldLayer) {
-                writeLayer(*part, name);
-            }
-        } else if (!findTag(*part, 0)->isWord(0, "ATTRIB")) {
-            break;
+        const bool isPart = part->role == CKvObjectSlot::Role::SubEntity;
+        if (!isPart && part->rxClass != s_attribute) {
+            return;
+        }
+        if (isPart && !part->isErased && &layers.findOrStandIn(encodedLayer(*part)) == oldLayer) {
+            writeLayer(*part, name);
         }
     }
 }

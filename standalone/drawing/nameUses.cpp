@@ -94,7 +94,10 @@ private:
 
 } // namespace
 
-void forEachNameUse(const CKvObjectSlot &slot, CKvUses uses, const CKvNameUse &use)
+void forEachNameUse(const CKvObjectSlot &slot,
+                    CKvUses uses,
+                    const CKvNameUse &use,
+                    const CKvPlainTag &plainTag)
 {
     if (slot.role == CKvObjectSlot::Role::Header) {
         forEachHeaderUse(slot, use);
@@ -121,6 +124,9 @@ void forEachNameUse(const CKvObjectSlot &slot, CKvUses uses, const CKvNameUse &u
                 use(CKvTableKind::Layer, tag);
             }
             continue;
+        }
+        if (plainTag) {
+            plainTag(tag);
         }
         subclasses += tag.code == 100 ? 1 : 0;
         if (tag.code == 8 && ((isDrawn && subclasses < 2) || isFilter)) {

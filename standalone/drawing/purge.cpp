@@ -59,20 +59,19 @@ public:
 
     void visit(const CKvObjectSlot &slot)
     {
-        forEachNameUse(slot, CKvUses::OnlyReferences, [&](CKvTableKind kind, const CKvTag &tag) {
-            note(slot, m_store.table(kind).findEncoded(tag.value));
-        });
-        if (slot.role == CKvObjectSlot::Role::Header || !m_store.hasHandles()) {
-            return;
-        }
-        CKvTagReader reader(slot.bytes(), slot.form());
-        while (reader.next()
-               && (reader.tag().code != 1001 || slot.role == CKvObjectSlot::Role::Object)) {
-            if (isKeepingPointer(reader.tag().code)) {
-                note(slot, m_store.findRecordByHandle(reader.tag().handle()));
-                noteNamed(slot, reader.tag());
-            }
-        }
+        const bool hasPointers = slot.role != CKvObjectSlot::Role::Header && m_store.hasHandles();
+        forEachNameUse(
+            slot,
+            CKvUses::OnlyReferences,
+            [&](CKvTableKind kind, const CKvTag &tag) {
+                note(slot, m_store.table(kind).findEncoded(tag.value));
+            },
+            [&](const CKvTag &tag) {
+                if (hasPointers && isKeepingPointer(tag.code)) {
+                    note(slot, m_store.findRecordByHandle(tag.handle()));
+                    noteNamed(slot, tag);
+                }
+            });
     }
 
     /// The candidates that stay: used by what is no candidate, or by one that stays.
