@@ -136,7 +136,8 @@ CKvObjectSlot *CKvObjectImporter::findCounterpart(const CKvObjectSlot &source, C
 std::string CKvObjectImporter::translated(const CKvObjectSlot &source,
                                           std::uint64_t handle,
                                           std::uint64_t owner,
-                                          std::string_view extensionGroup)
+                                          std::string_view extensionGroup,
+                                          CKvExtendedData extendedData)
 {
     const CKvTagStyle &style = m_destination.format().style;
     CKvDrawingStore *sourceStore = storeOf(source);
@@ -167,6 +168,12 @@ std::string CKvObjectImporter::translated(const CKvObjectSlot &source,
             continue;
         }
         isExtended = isExtended || (tag.code == 1001 && type != "XRECORD");
+        if (isExtended && extendedData == CKvExtendedData::LeftOut) {
+            break;
+        }
+        if (isExtended && tag.code == 1001) {
+            requireApplication(codecOf(source).decode(tag.value));
+        }
         if (tag.code == 102 && type != "XRECORD") {
             isInBraces = tag.word() != "}";
             continue;
@@ -238,6 +245,33 @@ CKvObjectImporter::findOrClone(CKvDrawingStore &source, CKvTableKind kind, const
     }
     CKvObjectSlot *record = source.table(kind).find(name);
     return record ? &cloneRecord(*record, kind) : nullptr;
+}
+
+void CKvObjectImporter::requireApplication(const QString &name)
+{
+    CKvTable &applications = m_destination.table(CKvTableKind::AppId);
+    if (applications.find(name)) {
+        return;
+    }
+    const CKvTagStyle &style = m_destination.format().style;
+    CKvObjectSlot &slot = m_destination.makeSlot(CKvObjectSlot::Role::Record, "APPID");
+    slot.owner = &applications.head();
+    slot.handle = m_destination.hasHandles() ? m_destination.newHandle() : 0;
+    std::string &bytes = slot.ownBytes();
+    appendTag(bytes, style, 0, "APPID");
+    if (slot.handle != 0) {
+        appendTag(bytes, style, 5, handleToText(slot.handle));
+    }
+    if (m_destination.format().hasDictionaries()) {
+        appendTag(bytes, style, 330, handleToText(ownerHandle(&applications.head())));
+        for (const std::string_view mark : recordSubclasses("APPID")) {
+            appendTag(bytes, style, 100, mark);
+        }
+    }
+    appendTag(bytes, style, 2, m_destination.format().codec.encode(name));
+    appendTag(bytes, style, 70, "0");
+    m_destination.registerHandle(slot);
+    applications.add(slot);
 }
 
 void CKvObjectImporter::bringNames(const CKvObjectSlot &source)
@@ -328,7 +362,11 @@ void CKvObjectImporter::replaceContent(CKvObjectSlot &target,
     const std::string extension =
         keepExtensionDictionary ? bracedGroupBytes(target) : std::string();
     std::string bytes =
-        translated(source, target.handle, target.owner ? target.owner->handle : 0, extension);
+        translated(source,
+                   target.handle,
+                   target.owner ? target.owner->handle : 0,
+                   extension,
+                   keepExtendedData ? CKvExtendedData::LeftOut : CKvExtendedData::Taken);
     if (keepExtendedData) {
         bytes += extendedDataBytes(target);
     }

@@ -12,6 +12,9 @@
 class CKvDrawingStore;
 class CKvObjectSlot;
 
+/// What becomes of a source's extended data.
+enum class CKvExtendedData { Taken, LeftOut };
+
 /// Brings objects of other drawings, and new ones, into a drawing: tags are spelled in its form and
 /// encoding, names and handles lead to its own objects, which come along where it lacks them.
 class CKvObjectImporter
@@ -43,7 +46,10 @@ private:
     std::string translated(const CKvObjectSlot &source,
                            std::uint64_t handle,
                            std::uint64_t owner,
-                           std::string_view extensionGroup);
+                           std::string_view extensionGroup,
+                           CKvExtendedData extendedData = CKvExtendedData::Taken);
+    /// Extended data may only name applications of the APPID table.
+    void requireApplication(const QString &name);
     CKvObjectSlot *findCounterpart(const CKvObjectSlot &source, CKvTableKind kind);
     std::uint64_t ownerHandle(CKvObjectSlot *owner);
     std::uint64_t translatedHandle(CKvDrawingStore *source, std::uint64_t handle);

@@ -150,7 +150,10 @@ void OdDbDatabase::wblockCloneObjects(const OdDbObjectIdArray &ids,
             }
             CKvObjectSlot *own = destination.table(kind).find(recordName(*source));
             if (own && duplicates == OdDb::kReplaceDuplicates) {
-                importer.replaceContent(*own, *source, true, true);
+                importer.replaceContent(*own,
+                                        *source,
+                                        /*keepExtendedData*/ false,
+                                        /*keepExtensionDictionary*/ true);
             } else if (!own) {
                 own = &importer.cloneRecord(*source, kind);
             }

@@ -176,7 +176,29 @@ TEST(HandingOver, TheNewObjectTakesIdHandleStampAndExtendedDataOfTheOldOne)
     EXPECT_EQ(copy->extensionDictionary(), dictionary);
     EXPECT_EQ(lineStyleOf(drawing, "DASHED")->numDashes(), 4);
     EXPECT_TRUE(CKvDrawingFile::toBytes(*drawing).contains("\nours\n"));
+    EXPECT_FALSE(CKvDrawingFile::toBytes(*drawing).contains("\ntheirs\n"));
     EXPECT_EQ(CKvDrawingFile::toBytes(*source), standards.toBytes());
+}
+
+TEST(Cloning, ExtendedDataComesAlongAndItsApplicationIsEnteredOnce)
+{
+    CKvDrawingBuilder standards;
+    standards.layer("WALLS").extendedData("OFFICE", { { 1000, "theirs" } });
+    standards.layer("DOORS").extendedData("OFFICE", { { 1000, "theirs" } });
+    CKvDrawingBuilder builder;
+    builder.withDefaults().layer("DOORS").extendedData("APP", { { 1000, "ours" } });
+    const OdDbDatabasePtr source = standards.open();
+    const OdDbDatabasePtr drawing = builder.open();
+    const OdDbSymbolTablePtr layers = tableOf(source->getLayerTableId());
+
+    clone(source, layers->getAt(OdString("WALLS")), drawing, drawing->getLayerTableId());
+    clone(source, layers->getAt(OdString("DOORS")), drawing, drawing->getLayerTableId());
+
+    const QByteArray text = CKvDrawingFile::toBytes(*drawing);
+    EXPECT_EQ(text.count("AcDbRegAppTableRecord\n  2\nOFFICE\n"), 1);
+    EXPECT_EQ(text.count("\ntheirs\n"), 2);
+    EXPECT_EQ(text.count("\nours\n"), 0);
+    EXPECT_TRUE(CKvDrawingFile::warnings(*reopened(drawing)).isEmpty());
 }
 
 TEST(AddingAnObject, ARecordOfAnotherDrawingMovesOverAndIsErasedThere)
