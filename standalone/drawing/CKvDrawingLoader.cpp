@@ -90,6 +90,7 @@ void CKvDrawingLoader::readSections(CKvSectionReader &reader)
         }
     }
     m_store->m_endOfSections = reader.endOfSections();
+    m_store->m_isLastSectionOpen = reader.isLastSectionOpen();
     if (!hasSection && reader.position() == m_image->bytes().size() && !reader.hasSeenEof()) {
         reader.fail(0, QStringLiteral("There is no section; this is not a drawing."));
     }
@@ -170,7 +171,8 @@ void CKvDrawingLoader::endTable(CKvSectionReader &reader, std::size_t offset)
     m_table->setEndInFile(offset);
     const std::optional<CKvTag> count = findTag(m_table->head(), 70);
     const std::size_t records = m_table->records().size();
-    const std::size_t declared = count ? std::size_t(count->integer()) : records;
+    const std::size_t declared = count ? std::size_t(count->integer(-1)) : records;
+    m_table->setUncountedRecords(std::nullopt);
     if (count && declared == records) {
         m_table->setUncountedRecords(0);
     } else if (count && declared + reservedRecords(*m_table) == records) {

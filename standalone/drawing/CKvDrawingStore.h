@@ -79,6 +79,8 @@ public:
     std::size_t objectsEnd() const { return m_objectsEnd; }
     /// Offset of the EOF mark, or of the end of the file where it is missing.
     std::size_t endOfSections() const { return m_endOfSections; }
+    /// What is put there has to close the last section first.
+    bool isLastSectionOpen() const { return m_isLastSectionOpen; }
     /// The object that stands behind another one in the file, null at the end of those that were
     /// read.
     CKvObjectSlot *slotBehind(const CKvObjectSlot &slot);
@@ -108,6 +110,7 @@ private:
     std::size_t m_tablesEnd = 0;
     std::size_t m_objectsEnd = 0;
     std::size_t m_endOfSections = 0;
+    bool m_isLastSectionOpen = false;
     std::uint64_t m_largestHandle = 0;
     bool m_hasHandles = false;
     QStringList m_warnings;

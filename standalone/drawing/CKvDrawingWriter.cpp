@@ -121,7 +121,7 @@ void CKvDrawingWriter::addTableCount(CKvTable &table)
     std::string bytes(head.bytes());
     const std::optional<CKvTag> count = findTag(head, 70);
     // A number that was wrong before is somebody else's; one that was right stays right.
-    if (count && table.uncountedRecords()) {
+    if (count && table.uncountedRecords() && lastingRecords(table) != table.recordsInFile()) {
         const std::size_t number = lastingRecords(table) - *table.uncountedRecords();
         replaceTagValue(bytes, *count, std::to_string(number));
     }
@@ -168,6 +168,9 @@ void CKvDrawingWriter::addObjectsSection()
     }
     const CKvTagStyle &style = m_store.format().style;
     std::string bytes;
+    if (m_store.isLastSectionOpen()) {
+        appendTag(bytes, style, 0, "ENDSEC");
+    }
     appendTag(bytes, style, 0, "SECTION");
     appendTag(bytes, style, 2, "OBJECTS");
     bytes += m_newObjects;

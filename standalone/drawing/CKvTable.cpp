@@ -42,24 +42,21 @@ CKvObjectSlot &CKvTable::findOrStandIn(std::string_view encodedName)
     if (CKvObjectSlot *found = findEncoded(encodedName)) {
         return *found;
     }
-    const QString name = m_store.format().codec.decode(encodedName);
-    CKvObjectSlot *standIn = m_standIns.find(name);
+    CKvObjectSlot *&standIn = m_standIns[std::string(encodedName)];
     if (!standIn) {
-        standIn = makeStandIn(name);
-        m_standIns.add(name, standIn);
+        standIn = makeStandIn(encodedName);
     }
     return *standIn;
 }
 
-CKvObjectSlot *CKvTable::makeStandIn(const QString &name)
+CKvObjectSlot *CKvTable::makeStandIn(std::string_view encodedName)
 {
-    CKvObjectSlot &slot =
-        m_store.makeSlot(CKvObjectSlot::Role::StandIn, kTableNames[std::size_t(m_kind)]);
+    const std::string_view type = kTableNames[std::size_t(m_kind)];
+    CKvObjectSlot &slot = m_store.makeSlot(CKvObjectSlot::Role::StandIn, type);
     slot.owner = m_head;
     std::string &bytes = slot.ownBytes();
-    const CKvTagStyle &style = m_store.format().style;
-    appendTag(bytes, style, 0, kTableNames[std::size_t(m_kind)]);
-    appendTag(bytes, style, 2, m_store.format().codec.encode(name));
+    appendTag(bytes, m_store.format().style, 0, type);
+    appendTag(bytes, m_store.format().style, 2, encodedName);
     return &slot;
 }
 

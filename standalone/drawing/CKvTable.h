@@ -29,7 +29,13 @@ public:
     /// How many records the number in the table's head (group 70) leaves out; it is kept true then.
     /// None when the number is missing or wrong.
     std::optional<std::size_t> uncountedRecords() const { return m_uncounted; }
-    void setUncountedRecords(std::size_t count) { m_uncounted = count; }
+    /// To be called when all records of the file are there.
+    void setUncountedRecords(std::optional<std::size_t> count)
+    {
+        m_uncounted = count;
+        m_recordsInFile = m_records.size();
+    }
+    std::size_t recordsInFile() const { return m_recordsInFile; }
 
     /// In the order of the file, erased ones too.
     const std::vector<CKvObjectSlot *> &records() const { return m_records; }
@@ -47,18 +53,20 @@ public:
 
 private:
     void rebuild();
-    CKvObjectSlot *makeStandIn(const QString &name);
+    CKvObjectSlot *makeStandIn(std::string_view encodedName);
 
     CKvDrawingStore &m_store;
     CKvTableKind m_kind;
     CKvObjectSlot *m_head;
     std::size_t m_endInFile = 0;
     std::optional<std::size_t> m_uncounted;
+    std::size_t m_recordsInFile = 0;
     std::vector<CKvObjectSlot *> m_records;
     /// The file has, or had, two records of one name; only then does a name that is let go need a
     /// search.
     bool m_hasDoubleNames = false;
     CKvNameIndex m_index;
-    CKvNameIndex m_standIns;
+    /// By the very spelling: each user of a name gets it back as it wrote it.
+    std::unordered_map<std::string, CKvObjectSlot *> m_standIns;
     std::unordered_map<std::string, CKvObjectSlot *> m_encodedNames;
 };

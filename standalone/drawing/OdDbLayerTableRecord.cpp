@@ -90,12 +90,12 @@ void OdDbLayerTableRecord::setColor(const OdCmColor &color)
     if (color.isByColor() && keepsTrueColor) {
         setTag(slot, 420, colorNumber(color), { 62 });
     } else {
-        dropTag(slot, 420);
+        dropTags(slot, 420);
     }
     if (!color.bookName().isEmpty() && keepsTrueColor) {
         setTag(slot, 430, slot.format().codec.encode(color.bookName().toQString()), { 420, 62 });
     } else {
-        dropTag(slot, 430);
+        dropTags(slot, 430);
     }
 }
 
@@ -133,8 +133,12 @@ void OdDbLayerTableRecord::setLinetypeObjectId(OdDbObjectId linetypeId)
     if (linetypeId.isNull() || linetypeObjectId() == linetypeId) {
         return;
     }
-    const QString name = recordName(*linetypeId.slot());
-    setTag(slot, 6, slot.format().codec.encode(name), { 420, 62, 70 });
+    const CKvObjectSlot &linetype = *linetypeId.slot();
+    // Within one drawing the bytes themselves: the encoding may not know all of them.
+    const std::string name = linetype.store == slot.store
+        ? std::string(encodedRecordName(linetype))
+        : slot.format().codec.encode(recordName(linetype));
+    setTag(slot, 6, name, { 420, 62, 70 });
 }
 
 bool OdDbLayerTableRecord::isHidden() const

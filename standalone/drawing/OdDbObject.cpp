@@ -64,7 +64,7 @@ OdDbObjectId OdDbObject::ownerId() const
     if (m_slot->owner) {
         return OdDbObjectId(m_slot->owner);
     }
-    const std::optional<CKvTag> owner = findTag(*m_slot, 330);
+    const std::optional<CKvTag> owner = findFirstTag(*m_slot, 330);
     return owner ? OdDbObjectId(m_slot->store->findByHandle(owner->handle())) : OdDbObjectId();
 }
 

@@ -58,7 +58,9 @@ CKvFileForm recognisedForm(const CKvFileImage &image)
     if (startsWith(bytes, kBinaryMark)) {
         CKvFileForm form;
         form.begin = kBinaryMark.size();
-        const bool isShort = bytes.size() > form.begin + 1 && bytes[form.begin + 1] != '\0';
+        // Codes of two bytes have a zero in the second one, or begin with the comment 999.
+        const std::string_view code = bytes.substr(form.begin, 2);
+        const bool isShort = code.size() == 2 && code[1] != '\0' && code != "\xE7\x03";
         form.style.form = isShort ? CKvTagForm::BinaryShortCodes : CKvTagForm::Binary;
         return form;
     }

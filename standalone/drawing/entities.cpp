@@ -168,12 +168,12 @@ void OdDbEntity::setLayer(OdDbObjectId layerId, bool doSubents, bool)
     const CKvObjectSlot *oldLayer = &layers.findOrStandIn(encodedLayer(slot));
     const std::string name(encodedRecordName(*layerId.slot()));
     writeLayer(slot, name);
-    if (!doSubents) {
-        return;
-    }
     // Vertices and the end mark follow; the attributes of an insertion stand between it and its end
     // mark and are entities of their own.
     static const OdRxClass *const s_attribute = objectClass("ATTRIB", CKvObjectSlot::Role::Entity);
+    if (!doSubents || slot.rxClass == s_attribute) {
+        return;
+    }
     for (CKvObjectSlot *part = slot.store->slotBehind(slot); part && part->owner == slot.owner;
          part = slot.store->slotBehind(*part)) {
         const bool isPart = part->role == CKvObjectSlot::Role::SubEntity;

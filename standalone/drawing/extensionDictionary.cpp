@@ -25,23 +25,26 @@ CKvTable *tableOf(const CKvObjectSlot &record)
     return nullptr;
 }
 
-/// @param seen keeps dictionaries that hold each other from being walked for ever.
-void setErasedWith(CKvObjectSlot &slot, bool isErased, std::set<const CKvObjectSlot *> &seen)
+/// What hangs on an object: its extension dictionary, and what a dictionary holds.
+std::vector<CKvObjectSlot *> hangingOn(const CKvObjectSlot &slot)
 {
-    if (!seen.insert(&slot).second) {
-        return;
-    }
+    std::vector<CKvObjectSlot *> hanging;
     if (slot.role == CKvObjectSlot::Role::Object && slot.rxClass == OdDbDictionary::desc()) {
         for (const CKvDictionaryEntry &entry : dictionaryEntries(slot)) {
             CKvObjectSlot *held = slot.store->findRecordByHandle(entry.handle);
             if (held && held->role == CKvObjectSlot::Role::Object) {
-                setErasedWith(*held, isErased, seen);
+                hanging.push_back(held);
             }
         }
     }
     if (CKvObjectSlot *dictionary = findExtensionDictionary(slot)) {
-        setErasedWith(*dictionary, isErased, seen);
+        hanging.push_back(dictionary);
     }
+    return hanging;
+}
+
+void setErasedAlone(CKvObjectSlot &slot, bool isErased)
+{
     slot.isErased = isErased;
     slot.store->touch(slot);
     if (slot.role == CKvObjectSlot::Role::Record) {
@@ -103,6 +106,18 @@ void insertExtensionGroup(CKvObjectSlot &slot, std::uint64_t dictionary)
 
 void setErased(CKvObjectSlot &slot, bool isErased)
 {
+    // A list of work and not a call for each level: a file can nest as deep as it likes, or in a
+    // circle.
     std::set<const CKvObjectSlot *> seen;
-    setErasedWith(slot, isErased, seen);
+    std::vector<CKvObjectSlot *> open { &slot };
+    while (!open.empty()) {
+        CKvObjectSlot *next = open.back();
+        open.pop_back();
+        if (seen.insert(next).second) {
+            for (CKvObjectSlot *held : hangingOn(*next)) {
+                open.push_back(held);
+            }
+            setErasedAlone(*next, isErased);
+        }
+    }
 }

@@ -5,6 +5,9 @@
 #include "CKvEntityIndex.h"
 #include "CKvTagReader.h"
 
+#include <optional>
+#include <utility>
+
 namespace
 {
 
@@ -12,6 +15,8 @@ struct CKvNameUseRow {
     std::string_view holder;
     int code;
     CKvTableKind table;
+    /// Each such group is a use; of the others the last one counts.
+    bool isRepeated = false;
 };
 
 constexpr CKvNameUseRow kHeaderUses[] = {
@@ -32,9 +37,9 @@ constexpr CKvNameUseRow kObjectUses[] = {
     { "ATTDEF", 7, CKvTableKind::TextStyle },
     { "ARCALIGNEDTEXT", 7, CKvTableKind::TextStyle },
     { "RTEXT", 7, CKvTableKind::TextStyle },
-    { "ACAD_TABLE", 7, CKvTableKind::TextStyle },
-    { "TABLESTYLE", 7, CKvTableKind::TextStyle },
-    { "MLINESTYLE", 6, CKvTableKind::Linetype },
+    { "ACAD_TABLE", 7, CKvTableKind::TextStyle, true },
+    { "TABLESTYLE", 7, CKvTableKind::TextStyle, true },
+    { "MLINESTYLE", 6, CKvTableKind::Linetype, true },
     { "DIMENSION", 3, CKvTableKind::DimStyle },
     { "ARC_DIMENSION", 3, CKvTableKind::DimStyle },
     { "LARGE_RADIAL_DIMENSION", 3, CKvTableKind::DimStyle },
@@ -94,6 +99,100 @@ private:
 
 } // namespace
 
+namespace
+{
+
+/// Goes through the tags of one object; of a group that occurs twice where one is meant it tells
+/// the last.
+class CKvNameUseScan
+{
+public:
+    CKvNameUseScan(const CKvObjectSlot &slot,
+                   std::string_view type,
+                   CKvUses uses,
+                   const CKvNameUse &use)
+        : m_rows(type)
+        , m_use(use)
+        , m_uses(uses)
+        , m_isDrawn(isEntity(slot))
+        , m_isFilter(uses == CKvUses::All && type == "LAYER_FILTER")
+        , m_isXrecord(type == "XRECORD")
+    {
+    }
+    /// @return false when the tag belongs to the extended data.
+    bool note(const CKvTag &tag)
+    {
+        m_isExtended = m_isExtended || (tag.code == 1001 && !m_isXrecord);
+        if (m_isExtended) {
+            if (m_uses == CKvUses::All && tag.code == 1003) {
+                m_use(CKvTableKind::Layer, tag);
+            }
+            return false;
+        }
+        if (tag.code == 100) {
+            ++m_subclasses;
+        } else if (tag.code == 101) {
+            // An embedded object has uses of its own.
+            tellLast(m_lastOfRow);
+        }
+        const bool isCommon = m_isDrawn && m_subclasses < 2;
+        if (tag.code == 8 && isCommon) {
+            m_lastLayer = { CKvTableKind::Layer, tag };
+        } else if (tag.code == 6 && isCommon) {
+            m_lastLineStyle = { CKvTableKind::Linetype, tag };
+        } else if (tag.code == 8 && m_isFilter) {
+            m_use(CKvTableKind::Layer, tag);
+        } else if (const CKvNameUseRow *row = m_rows.find(tag.code)) {
+            noteRow(*row, tag);
+        }
+        return true;
+    }
+    void tellRest()
+    {
+        tellLast(m_lastLayer);
+        tellLast(m_lastLineStyle);
+        tellLast(m_lastOfRow);
+        tellLast(m_lastOfOtherRow);
+    }
+
+private:
+    using Last = std::optional<std::pair<CKvTableKind, CKvTag>>;
+
+    void noteRow(const CKvNameUseRow &row, const CKvTag &tag)
+    {
+        if (row.isRepeated) {
+            m_use(row.table, tag);
+        } else if (row.table == CKvTableKind::Block) {
+            m_lastOfOtherRow = { row.table, tag };
+        } else {
+            m_lastOfRow = { row.table, tag };
+        }
+    }
+    void tellLast(Last &last)
+    {
+        if (last) {
+            m_use(last->first, last->second);
+            last.reset();
+        }
+    }
+
+    CKvObjectUses m_rows;
+    const CKvNameUse &m_use;
+    CKvUses m_uses;
+    bool m_isDrawn;
+    bool m_isFilter;
+    bool m_isXrecord;
+    bool m_isExtended = false;
+    int m_subclasses = 0;
+    Last m_lastLayer;
+    Last m_lastLineStyle;
+    Last m_lastOfRow;
+    /// A dimension has a style and a block.
+    Last m_lastOfOtherRow;
+};
+
+} // namespace
+
 void forEachNameUse(const CKvObjectSlot &slot,
                     CKvUses uses,
                     const CKvNameUse &use,
@@ -107,36 +206,13 @@ void forEachNameUse(const CKvObjectSlot &slot,
     if (!reader.next()) {
         return;
     }
-    const std::string_view type = reader.tag().word();
-    const CKvObjectUses rows(type);
-    const bool isDrawn = isEntity(slot);
-    const bool isFilter = uses == CKvUses::All && type == "LAYER_FILTER";
-    const bool isXrecord = type == "XRECORD";
-    int subclasses = 0;
-    bool isExtended = false;
+    CKvNameUseScan scan(slot, reader.tag().word(), uses, use);
     while (reader.next()) {
-        const CKvTag &tag = reader.tag();
-        if (tag.code == 1001 && !isXrecord) {
-            isExtended = true;
-        }
-        if (isExtended) {
-            if (uses == CKvUses::All && tag.code == 1003) {
-                use(CKvTableKind::Layer, tag);
-            }
-            continue;
-        }
-        if (plainTag) {
-            plainTag(tag);
-        }
-        subclasses += tag.code == 100 ? 1 : 0;
-        if (tag.code == 8 && ((isDrawn && subclasses < 2) || isFilter)) {
-            use(CKvTableKind::Layer, tag);
-        } else if (tag.code == 6 && isDrawn && subclasses < 2) {
-            use(CKvTableKind::Linetype, tag);
-        } else if (const CKvNameUseRow *row = rows.find(tag.code)) {
-            use(row->table, tag);
+        if (scan.note(reader.tag()) && plainTag) {
+            plainTag(reader.tag());
         }
     }
+    scan.tellRest();
 }
 
 void forEachSlot(CKvDrawingStore &store, const std::function<void(CKvObjectSlot &)> &action)

@@ -18,7 +18,8 @@ using CKvNameUse = std::function<void(CKvTableKind, const CKvTag &)>;
 /// Called with each tag that stands before the extended data, be it a use or not.
 using CKvPlainTag = std::function<void(const CKvTag &)>;
 
-/// Tells each place where an object, or the header, uses a record by its name.
+/// Tells each place where an object, or the header, uses a record by its name; not in the order of
+/// the tags.
 void forEachNameUse(const CKvObjectSlot &slot,
                     CKvUses uses,
                     const CKvNameUse &use,

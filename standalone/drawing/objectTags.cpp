@@ -51,6 +51,18 @@ std::optional<CKvTag> findTag(const CKvObjectSlot &slot, int code, CKvTagScope s
     return findTag(slot.bytes(), slot.form(), code, scope);
 }
 
+std::optional<CKvTag> findFirstTag(const CKvObjectSlot &slot, int code)
+{
+    std::optional<CKvTag> found;
+    forEachOwnTag(slot.bytes(), slot.form(), [&](const CKvTag &tag) {
+        if (tag.code == code) {
+            found = tag;
+        }
+        return !found;
+    });
+    return found;
+}
+
 std::vector<CKvTag> ownTags(const CKvObjectSlot &slot)
 {
     std::vector<CKvTag> tags;
@@ -115,9 +127,9 @@ void setTag(CKvObjectSlot &slot,
     insertTag(slot.ownBytes(), at, slot.format().style, code, value);
 }
 
-void dropTag(CKvObjectSlot &slot, int code)
+void dropTags(CKvObjectSlot &slot, int code)
 {
-    if (const std::optional<CKvTag> tag = findTag(slot, code)) {
+    while (const std::optional<CKvTag> tag = findTag(slot, code)) {
         removeTag(slot.ownBytes(), *tag);
     }
 }

@@ -24,6 +24,8 @@ std::optional<CKvTag>
 findTag(std::string_view bytes, CKvTagForm form, int code, CKvTagScope scope = CKvTagScope::Own);
 std::optional<CKvTag>
 findTag(const CKvObjectSlot &slot, int code, CKvTagScope scope = CKvTagScope::Own);
+/// The first own tag of that code: the owner (330) stands before the data of an xrecord.
+std::optional<CKvTag> findFirstTag(const CKvObjectSlot &slot, int code);
 /// All own tags.
 std::vector<CKvTag> ownTags(const CKvObjectSlot &slot);
 /// Offset behind the last own tag.
@@ -43,5 +45,5 @@ void setTag(CKvObjectSlot &slot,
             std::string_view value,
             std::initializer_list<int> anchors,
             CKvTagScope scope = CKvTagScope::Own);
-/// Takes the last own tag of that code out; nothing when there is none.
-void dropTag(CKvObjectSlot &slot, int code);
+/// Takes all own tags of that code out.
+void dropTags(CKvObjectSlot &slot, int code);

@@ -10,6 +10,8 @@
 #include "recordNames.h"
 #include "rxConstruction.h"
 
+#include <algorithm>
+
 namespace
 {
 
@@ -65,6 +67,9 @@ void rewriteUses(CKvDrawingStore &store,
             if (used == kind && foldedName(store.format().codec.decode(tag.value)) == folded) {
                 tags.push_back(tag);
             }
+        });
+        std::sort(tags.begin(), tags.end(), [](const CKvTag &a, const CKvTag &b) {
+            return a.begin < b.begin;
         });
         // From the last to the first, so that the offsets of those before stay true.
         for (auto tag = tags.rbegin(); tag != tags.rend(); ++tag) {
@@ -125,10 +130,14 @@ void OdDbSymbolTableRecord::setName(const OdString &name)
         requireValidName(newName);
     }
     CKvObjectAccess::beginChange(*this);
+    // Users mean the first record of a name; a second one can go without them.
+    const bool isTheOneMeant = table && table->find(oldName) == &slot;
     const std::string encoded = slot.format().codec.encode(newName);
     setTag(slot, 2, encoded, { 100, 5, 0 });
     if (table) {
         table->nameChanged(slot, oldName);
+    }
+    if (isTheOneMeant) {
         rewriteUses(*slot.store, table->kind(), oldName, encoded);
     }
 }

@@ -9,6 +9,45 @@ namespace
 {
 
 constexpr std::string_view kControlGroupEnd = "}";
+constexpr int kMostWarnings = 100;
+
+/// Notes what an outline tells, tag by tag.
+class CKvOutlineScan
+{
+public:
+    explicit CKvOutlineScan(CKvObjectOutline &outline)
+        : m_outline(outline)
+        // Of a dimension style group 5 is an arrow block.
+        , m_handleCode(outline.type == "DIMSTYLE" ? 105 : 5)
+    {
+    }
+    void note(const CKvTag &tag)
+    {
+        if (tag.code == 1001) {
+            m_isExtended = true;
+        }
+        if (m_isExtended) {
+            return;
+        }
+        if (tag.code == 102) {
+            m_isInBraces = tag.word() != kControlGroupEnd;
+        } else if (tag.code == 67) {
+            m_outline.isInPaperSpace = tag.integer() != 0;
+        } else if (tag.code == m_handleCode && !m_hasHandle && !m_isInBraces) {
+            m_outline.handle = tag.handle();
+            m_hasHandle = true;
+        } else if (tag.code == 330 && m_outline.owner == 0 && !m_isInBraces) {
+            m_outline.owner = tag.handle();
+        }
+    }
+
+private:
+    CKvObjectOutline &m_outline;
+    int m_handleCode;
+    bool m_hasHandle = false;
+    bool m_isInBraces = false;
+    bool m_isExtended = false;
+};
 
 /// @return the line before offset as a view without blanks, and moves offset to its begin.
 std::string_view lineBefore(std::string_view bytes, std::size_t &offset)
@@ -23,13 +62,20 @@ std::string_view lineBefore(std::string_view bytes, std::size_t &offset)
     return trimmed(bytes.substr(offset, lineEnd - offset));
 }
 
-std::size_t asciiSectionBegin(std::string_view bytes, std::size_t nameAt, std::size_t nameSize)
+/// @param lineBegin receives where the line with the name begins.
+std::size_t asciiSectionBegin(std::string_view bytes,
+                              std::size_t nameAt,
+                              std::size_t nameSize,
+                              std::size_t &lineBegin)
 {
-    const std::size_t newline = bytes.rfind('\n', nameAt);
+    const std::size_t newline =
+        nameAt == 0 ? std::string_view::npos : bytes.rfind('\n', nameAt - 1);
     if (newline == std::string_view::npos) {
+        lineBegin = 0;
         return std::string_view::npos;
     }
-    std::size_t offset = newline + 1;
+    lineBegin = newline + 1;
+    std::size_t offset = lineBegin;
     const std::size_t lineEnd = std::min(bytes.find('\n', nameAt), bytes.size());
     const std::string_view line = trimmed(bytes.substr(offset, lineEnd - offset));
     const bool isMark = line.size() == nameSize && lineBefore(bytes, offset) == "2"
@@ -63,6 +109,14 @@ void CKvSectionReader::fail(std::size_t offset, const QString &reason) const
 
 void CKvSectionReader::warn(std::size_t offset, const QString &reason) const
 {
+    // Each warning looks for its line; a million of them are no use to anybody.
+    if (m_warnings->size() >= kMostWarnings) {
+        return;
+    }
+    if (m_warnings->size() == kMostWarnings - 1) {
+        m_warnings->append(QStringLiteral("There are more warnings; they are left out."));
+        return;
+    }
     if (m_reader.tag().form != CKvTagForm::Ascii) {
         m_warnings->append(QStringLiteral("byte %1: %2").arg(offset).arg(reason));
     } else {
@@ -155,78 +209,66 @@ bool CKvSectionReader::nextSection()
     return false;
 }
 
-void CKvSectionReader::skipToFirstObject()
+bool CKvSectionReader::skipToFirstObject()
 {
     while (advance()) {
         if (m_reader.tag().code == 0) {
             m_hasPending = true;
-            return;
+            return true;
         }
     }
-    fail(m_end, QStringLiteral("The file ends within a section."));
+    return false;
+}
+
+bool CKvSectionReader::endSection(std::size_t offset)
+{
+    m_contentEnd = offset;
+    m_isInSection = false;
+    m_isLastSectionOpen = !m_reader.tag().isWord(0, "ENDSEC");
+    if (m_isLastSectionOpen) {
+        warn(offset, QStringLiteral("The section before is not closed."));
+    }
+    return false;
+}
+
+bool CKvSectionReader::endSectionWithRange()
+{
+    // Behind a range stands the next section; behind the file stands nothing.
+    if (m_end == m_image->bytes().size()) {
+        fail(m_end, QStringLiteral("The file ends within a section."));
+    }
+    return endSection(m_end);
 }
 
 bool CKvSectionReader::nextObject(CKvObjectOutline &outline)
 {
-    if (!m_hasPending) {
-        skipToFirstObject();
+    if (!m_hasPending && !skipToFirstObject()) {
+        return endSectionWithRange();
     }
     const CKvTag start = m_reader.tag();
     const std::string_view type = start.word();
     if (type == "ENDSEC" || type == "SECTION" || type == "EOF") {
-        m_contentEnd = start.begin;
-        m_isInSection = false;
         m_hasPending = type != "ENDSEC";
-        if (type != "ENDSEC") {
-            warn(start.begin, QStringLiteral("The section before is not closed."));
-        }
-        return false;
+        return endSection(start.begin);
     }
     outline = CKvObjectOutline();
     outline.begin = start.begin;
     outline.type = type;
-    int depth = 0;
-    bool hasHandle = false;
-    bool isExtended = false;
+    CKvOutlineScan scan(outline);
     while (advance()) {
-        const CKvTag &tag = m_reader.tag();
-        switch (tag.code) {
-        case 0:
-            outline.end = tag.begin;
+        if (m_reader.tag().code == 0) {
+            outline.end = m_reader.tag().begin;
             m_hasPending = true;
             return true;
-        case 5:
-            // Of a dimension style group 5 is an arrow block, its handle is 105.
-            if (!hasHandle && !isExtended && depth == 0 && type != "DIMSTYLE") {
-                outline.handle = tag.handle();
-                hasHandle = true;
-            }
-            break;
-        case 105:
-            if (!hasHandle && !isExtended && type == "DIMSTYLE") {
-                outline.handle = tag.handle();
-                hasHandle = true;
-            }
-            break;
-        case 67:
-            outline.isInPaperSpace = !isExtended && tag.integer() != 0;
-            break;
-        case 102:
-            depth = tag.word() == kControlGroupEnd ? 0 : 1;
-            break;
-        case 330:
-            if (depth == 0 && outline.owner == 0 && !isExtended) {
-                outline.owner = tag.handle();
-            }
-            break;
-        case 1001:
-            isExtended = true;
-            break;
-        default:
-            break;
         }
+        scan.note(m_reader.tag());
     }
-    fail(m_end, QStringLiteral("The file ends within a section."));
+    if (m_end == m_image->bytes().size()) {
+        fail(m_end, QStringLiteral("The file ends within a section."));
+    }
+    outline.end = m_end;
+    m_hasPending = false;
+    return true;
 }
 
 std::size_t
@@ -251,10 +293,13 @@ findSectionFromEnd(std::string_view bytes, CKvTagForm form, std::string_view nam
         if (at == std::string_view::npos || at < from) {
             return std::string_view::npos;
         }
-        const std::size_t begin = asciiSectionBegin(bytes, at, name.size());
+        std::size_t lineBegin = 0;
+        const std::size_t begin = asciiSectionBegin(bytes, at, name.size(), lineBegin);
         if (begin != std::string_view::npos && begin >= from) {
             return begin;
         }
+        // A line with anything else in it is no mark, however often it has the name.
+        at = lineBegin;
     }
     return std::string_view::npos;
 }

@@ -44,8 +44,6 @@ public:
     /// Offset of the group 0 that ended the section, once nextObject gave false.
     std::size_t contentEnd() const { return m_contentEnd; }
 
-    /// Passes over tags that belong to no object, as those of a header.
-    void skipToFirstObject();
     /// Reads the next object of the section.
     /// @return false at its end.
     bool nextObject(CKvObjectOutline &outline);
@@ -54,6 +52,8 @@ public:
 
     std::size_t position() const { return m_reader.position(); }
     bool hasSeenEof() const { return m_hasSeenEof; }
+    /// The EOF mark, or the next section, stands where the section that was read last should end.
+    bool isLastSectionOpen() const { return m_isLastSectionOpen; }
     /// Offset of the EOF mark, or of the end of the bytes where it is missing.
     std::size_t endOfSections() const { return m_endOfSections; }
 
@@ -63,6 +63,9 @@ public:
 
 private:
     bool advance();
+    bool skipToFirstObject();
+    bool endSection(std::size_t offset);
+    bool endSectionWithRange();
     void endAtEof();
     void endWithoutEof();
 
@@ -78,6 +81,7 @@ private:
     /// m_reader.tag() is a group 0 that nobody has dealt with yet.
     bool m_hasPending = false;
     bool m_isInSection = false;
+    bool m_isLastSectionOpen = false;
     bool m_hasSeenEof = false;
     bool m_isAtEnd = false;
 };

@@ -56,10 +56,11 @@ inline bool CKvTagReader::nextAscii()
         code = code * 10 + (bytes[at] - '0');
         ++at;
     }
+    const bool hasDigits = at > firstDigit;
     if (at < size && bytes[at] == '\r') {
         ++at;
     }
-    if (at == firstDigit || at >= size || bytes[at] != '\n') {
+    if (!hasDigits || at >= size || bytes[at] != '\n') {
         const void *found = std::memchr(bytes + m_position, '\n', size - m_position);
         const std::size_t lineEnd =
             found ? std::size_t(static_cast<const char *>(found) - bytes) : size;
