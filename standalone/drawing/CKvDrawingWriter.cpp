@@ -3,9 +3,12 @@
 
 #include "CKvDrawingStore.h"
 #include "CKvEntityIndex.h"
+#include "CKvTagReader.h"
+#include "nameUses.h"
 #include "objectTags.h"
 
 #include <algorithm>
+#include <unordered_set>
 
 namespace
 {
@@ -36,8 +39,14 @@ CKvDrawingWriter::CKvDrawingWriter(CKvDrawingStore &store)
         store.writeHandleSeed();
     }
     // By number: the header may join the list meanwhile.
-    for (std::size_t i = 0; i < store.touched().size(); ++i) {
-        addEdit(*store.touched()[i]);
+    clearPointersToErased();
+    for (const CKvObjectSlot *slot : store.touched()) {
+        addEdit(*slot);
+    }
+    for (const auto &cleared : m_cleared) {
+        if (!cleared.first->isTouched) {
+            addEdit(*cleared.first);
+        }
     }
     addTables();
     addObjectsSection();
@@ -52,6 +61,44 @@ std::string_view CKvDrawingWriter::keep(std::string bytes)
     return m_made.emplace_back(std::move(bytes));
 }
 
+std::string_view CKvDrawingWriter::bytesOf(const CKvObjectSlot &slot) const
+{
+    const auto cleared = m_cleared.find(&slot);
+    return cleared != m_cleared.end() ? std::string_view(cleared->second) : slot.bytes();
+}
+
+void CKvDrawingWriter::clearPointersToErased()
+{
+    std::unordered_set<std::uint64_t> erased;
+    for (const CKvObjectSlot *slot : m_store.touched()) {
+        if (slot->isErased && slot->handle != 0) {
+            erased.insert(slot->handle);
+        }
+    }
+    if (erased.empty()) {
+        return;
+    }
+    forEachSlot(m_store, [&](const CKvObjectSlot &slot) {
+        CKvTagReader reader(slot.bytes(), slot.form());
+        std::vector<CKvTag> tags;
+        while (reader.next()) {
+            const int code = reader.tag().code;
+            if (((code >= 340 && code <= 349) || code == 1005)
+                && erased.count(reader.tag().handle()) != 0) {
+                tags.push_back(reader.tag());
+            }
+        }
+        if (tags.empty()) {
+            return;
+        }
+        std::string bytes(slot.bytes());
+        for (auto tag = tags.rbegin(); tag != tags.rend(); ++tag) {
+            replaceTagValue(bytes, *tag, "0");
+        }
+        m_cleared.emplace(&slot, std::move(bytes));
+    });
+}
+
 void CKvDrawingWriter::addEdit(const CKvObjectSlot &slot)
 {
     if (slot.begin == slot.end) {
@@ -64,8 +111,8 @@ void CKvDrawingWriter::addEdit(const CKvObjectSlot &slot)
         m_store.image()->bytes().substr(slot.begin, slot.end - slot.begin);
     if (slot.isErased) {
         m_edits.push_back({ slot.begin, slot.end, {} });
-    } else if (slot.role != CKvObjectSlot::Role::TableHead && slot.own && *slot.own != inFile) {
-        m_edits.push_back({ slot.begin, slot.end, *slot.own });
+    } else if (slot.role != CKvObjectSlot::Role::TableHead && bytesOf(slot) != inFile) {
+        m_edits.push_back({ slot.begin, slot.end, bytesOf(slot) });
     }
 }
 
@@ -80,17 +127,17 @@ void CKvDrawingWriter::addNew(const CKvObjectSlot &slot)
                 continue;
             }
             if (table.isInFile()) {
-                m_edits.push_back({ table.endInFile(), table.endInFile(), *slot.own });
+                m_edits.push_back({ table.endInFile(), table.endInFile(), bytesOf(slot) });
             } else {
-                m_newTables[&table.head()] += *slot.own;
+                m_newTables[&table.head()] += bytesOf(slot);
             }
         }
         break;
     case Role::Object:
         if (m_store.objectsEnd() != 0) {
-            m_edits.push_back({ m_store.objectsEnd(), m_store.objectsEnd(), *slot.own });
+            m_edits.push_back({ m_store.objectsEnd(), m_store.objectsEnd(), bytesOf(slot) });
         } else {
-            m_newObjects += *slot.own;
+            m_newObjects += bytesOf(slot);
             m_hasNewObjects = m_hasNewObjects || &slot != m_store.rootDictionary();
         }
         break;
@@ -98,7 +145,7 @@ void CKvDrawingWriter::addNew(const CKvObjectSlot &slot)
     case Role::SubEntity:
     case Role::BlockEdge:
         if (const std::size_t place = placeOfEntity(slot)) {
-            m_edits.push_back({ place, place, *slot.own });
+            m_edits.push_back({ place, place, bytesOf(slot) });
         }
         break;
     case Role::Header:

@@ -31,6 +31,8 @@ private:
         std::string_view bytes;
     };
 
+    void clearPointersToErased();
+    std::string_view bytesOf(const CKvObjectSlot &slot) const;
     void addEdit(const CKvObjectSlot &slot);
     void addNew(const CKvObjectSlot &slot);
     std::size_t placeOfEntity(const CKvObjectSlot &slot) const;
@@ -43,6 +45,8 @@ private:
     std::vector<Edit> m_edits;
     std::deque<std::string> m_made;
     std::map<const CKvObjectSlot *, std::string> m_newTables;
+    /// Objects whose pointers to erased ones are written as 0.
+    std::map<const CKvObjectSlot *, std::string> m_cleared;
     std::string m_newObjects;
     bool m_hasNewObjects = false;
 };

@@ -9,6 +9,7 @@
 #include "extensionDictionary.h"
 #include "groupValueType.h"
 #include "nameUses.h"
+#include "objectClasses.h"
 #include "objectTags.h"
 #include "recordNames.h"
 #include "recordSubclass.h"
@@ -17,6 +18,17 @@
 
 namespace
 {
+
+/// R13 and R14 know neither the flag of an xrecord (280) nor those of a dictionary (280, 281).
+constexpr int kFlagsVersion = 1015;
+
+/// A block that programs name: of equal names two drawings have different contents.
+bool isAnonymousBlock(CKvTableKind kind, const QString &name)
+{
+    return kind == CKvTableKind::Block && name.startsWith(QLatin1Char('*'))
+        && !name.startsWith(QLatin1String("*Model_Space"), Qt::CaseInsensitive)
+        && !name.startsWith(QLatin1String("*Paper_Space"), Qt::CaseInsensitive);
+}
 
 /// The drawing that the handles of an object count in; null for a new object.
 CKvDrawingStore *storeOf(const CKvObjectSlot &slot)
@@ -76,6 +88,12 @@ bool CKvObjectImporter::isAllowed(int code) const
 std::string CKvObjectImporter::translatedText(const CKvObjectSlot &source,
                                               std::string_view value) const
 {
+    if (!value.empty() && value.front() == '*') {
+        const auto renamed = m_newBlockNames.find(foldedName(codecOf(source).decode(value)));
+        if (renamed != m_newBlockNames.end()) {
+            return m_destination.format().codec.encode(renamed->second);
+        }
+    }
     const bool isPlain = value.find('\\') == std::string_view::npos
         && std::all_of(value.begin(), value.end(), [](char c) {
                              return static_cast<unsigned char>(c) < 128;
@@ -88,7 +106,11 @@ std::string CKvObjectImporter::translatedText(const CKvObjectSlot &source,
 
 std::uint64_t CKvObjectImporter::translatedHandle(CKvDrawingStore *source, std::uint64_t handle)
 {
-    CKvObjectSlot *named = source ? source->findByHandle(handle) : nullptr;
+    if (!source) {
+        // A new object names handles of the drawing that it enters.
+        return handle;
+    }
+    CKvObjectSlot *named = source->findByHandle(handle);
     if (source == &m_destination) {
         return named ? handle : 0;
     }
@@ -100,14 +122,18 @@ std::uint64_t CKvObjectImporter::translatedHandle(CKvDrawingStore *source, std::
         if (!source->isRecordOf(*named, kind)) {
             continue;
         }
-        CKvObjectSlot *own = findCounterpart(*named, kind);
-        if (!own) {
-            own = &cloneRecord(*named, kind);
-        }
-        requireHandle(*own);
-        return own->handle;
+        CKvObjectSlot &own = counterpartOrClone(*named, kind);
+        requireHandle(own);
+        return own.handle;
     }
     return 0;
+}
+
+CKvObjectSlot &CKvObjectImporter::counterpartOrClone(CKvObjectSlot &source, CKvTableKind kind)
+{
+    CKvObjectSlot *own =
+        isAnonymousBlock(kind, recordName(source)) ? nullptr : findCounterpart(source, kind);
+    return own ? *own : cloneRecord(source, kind);
 }
 
 CKvObjectSlot *CKvObjectImporter::findCounterpart(const CKvObjectSlot &source, CKvTableKind kind)
@@ -133,6 +159,31 @@ CKvObjectSlot *CKvObjectImporter::findCounterpart(const CKvObjectSlot &source, C
     return nullptr;
 }
 
+void CKvObjectImporter::appendTranslated(std::string &bytes,
+                                         const CKvObjectSlot &source,
+                                         const CKvTag &tag)
+{
+    const CKvTagStyle &style = m_destination.format().style;
+    const CKvGroupValueType valueType = groupValueType(tag.code);
+    if (valueType == CKvGroupValueType::Handle) {
+        appendTag(
+            bytes, style, tag.code, handleToText(translatedHandle(storeOf(source), tag.handle())));
+    } else if (valueType == CKvGroupValueType::Text) {
+        appendTag(bytes, style, tag.code, translatedText(source, tag.value));
+    } else {
+        appendTagCopy(bytes, style, tag);
+    }
+}
+
+void CKvObjectImporter::skipNewerFlag(CKvTagReader &reader) const
+{
+    const std::size_t data = reader.position();
+    if (m_destination.format().version < kFlagsVersion && reader.next()
+        && reader.tag().code != 280) {
+        reader.seek(data);
+    }
+}
+
 std::string CKvObjectImporter::translated(const CKvObjectSlot &source,
                                           std::uint64_t handle,
                                           std::uint64_t owner,
@@ -140,12 +191,12 @@ std::string CKvObjectImporter::translated(const CKvObjectSlot &source,
                                           CKvExtendedData extendedData)
 {
     const CKvTagStyle &style = m_destination.format().style;
-    CKvDrawingStore *sourceStore = storeOf(source);
     CKvTagReader reader(source.bytes(), source.store ? source.form() : formOf(source));
     std::string bytes;
     std::string_view type;
     bool isInBraces = false;
     bool isExtended = false;
+    bool isXrecordData = false;
     bool hasOwner = false;
     bool hasSubclass = findTag(source.bytes(), formOf(source), 100).has_value();
     while (reader.next()) {
@@ -167,6 +218,16 @@ std::string CKvObjectImporter::translated(const CKvObjectSlot &source,
             }
             continue;
         }
+        if (isXrecordData) {
+            appendTranslated(bytes, source, tag);
+            continue;
+        }
+        if (tag.isWord(100, "AcDbXrecord")) {
+            appendTag(bytes, style, tag.code, tag.value);
+            isXrecordData = true;
+            skipNewerFlag(reader);
+            continue;
+        }
         isExtended = isExtended || (tag.code == 1001 && type != "XRECORD");
         if (isExtended && extendedData == CKvExtendedData::LeftOut) {
             break;
@@ -178,7 +239,9 @@ std::string CKvObjectImporter::translated(const CKvObjectSlot &source,
             isInBraces = tag.word() != "}";
             continue;
         }
-        if (isInBraces || tag.code == 999 || (!isExtended && isOwnHandle(tag, type))
+        const bool isNewerFlag = type == "DICTIONARY" && (tag.code == 280 || tag.code == 281)
+            && m_destination.format().version < kFlagsVersion;
+        if (isNewerFlag || isInBraces || tag.code == 999 || (!isExtended && isOwnHandle(tag, type))
             || !isAllowed(tag.code)) {
             continue;
         }
@@ -186,15 +249,7 @@ std::string CKvObjectImporter::translated(const CKvObjectSlot &source,
             hasOwner = true;
             continue;
         }
-        const CKvGroupValueType valueType = groupValueType(tag.code);
-        if (valueType == CKvGroupValueType::Handle) {
-            appendTag(
-                bytes, style, tag.code, handleToText(translatedHandle(sourceStore, tag.handle())));
-        } else if (valueType == CKvGroupValueType::Text) {
-            appendTag(bytes, style, tag.code, translatedText(source, tag.value));
-        } else {
-            appendTagCopy(bytes, style, tag);
-        }
+        appendTranslated(bytes, source, tag);
     }
     return bytes;
 }
@@ -240,7 +295,8 @@ void CKvObjectImporter::adopt(OdDbObject &object,
 CKvObjectSlot *
 CKvObjectImporter::findOrClone(CKvDrawingStore &source, CKvTableKind kind, const QString &name)
 {
-    if (CKvObjectSlot *own = m_destination.table(kind).find(name)) {
+    CKvObjectSlot *own = m_destination.table(kind).find(name);
+    if (own && !isAnonymousBlock(kind, name)) {
         return own;
     }
     CKvObjectSlot *record = source.table(kind).find(name);
@@ -298,6 +354,10 @@ CKvObjectSlot &CKvObjectImporter::cloneRecord(CKvObjectSlot &source, CKvTableKin
     slot.owner = &table.head();
     slot.handle = m_destination.hasHandles() ? m_destination.newHandle() : 0;
     slot.isNew = true;
+    const QString name = recordName(source);
+    if (isAnonymousBlock(kind, name)) {
+        m_newBlockNames[foldedName(name)] = freeAnonymousName(name);
+    }
     bringNames(source);
     slot.ownBytes() = translated(source, slot.handle, ownerHandle(&table.head()), {});
     m_destination.registerHandle(slot);
@@ -310,46 +370,70 @@ CKvObjectSlot &CKvObjectImporter::cloneRecord(CKvObjectSlot &source, CKvTableKin
     return slot;
 }
 
-CKvObjectSlot &CKvObjectImporter::cloneEntity(CKvObjectSlot &source, CKvObjectSlot &block)
+QString CKvObjectImporter::freeAnonymousName(const QString &name) const
 {
-    const std::string type(findTag(source, 0)->word());
-    CKvObjectSlot &slot = m_destination.makeSlot(source.role, type);
-    slot.owner = &block;
-    slot.handle = m_destination.hasHandles() ? m_destination.newHandle() : 0;
-    slot.isNew = true;
+    const QString stem = name.left(2).toUpper();
+    int number = 1;
+    while (m_destination.table(CKvTableKind::Block).find(stem + QString::number(number))) {
+        ++number;
+    }
+    return stem + QString::number(number);
+}
+
+CKvObjectImporter::Copy CKvObjectImporter::copyOf(CKvObjectSlot &source, std::uint64_t owner)
+{
+    Copy copy;
+    copy.source = &source;
+    copy.handle = m_destination.hasHandles() ? m_destination.newHandle() : 0;
     bringNames(source);
-    slot.own = std::make_unique<std::string>(translated(source, slot.handle, block.handle, {}));
-    m_destination.entities().add(slot);
-    return slot;
+    copy.bytes = translated(source, copy.handle, owner, {});
+    return copy;
 }
 
 void CKvObjectImporter::cloneContents(CKvObjectSlot &sourceBlock, CKvObjectSlot &block)
 {
     const CKvBlockContents contents = sourceBlock.store->entities().contentsOf(sourceBlock);
-    CKvEntityIndex &index = m_destination.entities();
+    std::vector<Copy> copies;
     if (contents.begin) {
-        index.contentsOf(block).begin = &cloneEntity(*contents.begin, block);
+        copies.push_back(copyOf(*contents.begin, block.handle));
     }
+    std::uint64_t parent = 0;
     for (CKvObjectSlot *entity : contents.entities) {
         if (!entity->isErased) {
-            CKvObjectSlot &copy = cloneEntity(*entity, block);
-            index.contentsOf(block).entities.push_back(&copy);
+            const bool isPart = entity->role == CKvObjectSlot::Role::SubEntity
+                || entity->rxClass == objectClass("ATTRIB", entity->role);
+            copies.push_back(copyOf(*entity, isPart ? parent : block.handle));
+            parent = isPart ? parent : copies.back().handle;
         }
     }
     if (contents.end) {
-        index.contentsOf(block).end = &cloneEntity(*contents.end, block);
+        copies.push_back(copyOf(*contents.end, block.handle));
     }
-    // Only now, so that blocks that came along stand before this one and not within it.
-    const CKvBlockContents &copies = index.contentsOf(block);
-    if (copies.begin) {
-        m_destination.touch(*copies.begin);
+    // Only now, when all that comes along is there: an entity and its parts stand side by side, and
+    // in the file no other block within this one.
+    CKvBlockContents &own = m_destination.entities().contentsOf(block);
+    for (Copy &copy : copies) {
+        CKvObjectSlot &slot = enter(copy, block);
+        if (copy.source == contents.begin) {
+            own.begin = &slot;
+        } else if (copy.source == contents.end) {
+            own.end = &slot;
+        } else {
+            own.entities.push_back(&slot);
+        }
     }
-    for (CKvObjectSlot *entity : copies.entities) {
-        m_destination.touch(*entity);
-    }
-    if (copies.end) {
-        m_destination.touch(*copies.end);
-    }
+}
+
+CKvObjectSlot &CKvObjectImporter::enter(Copy &copy, CKvObjectSlot &block)
+{
+    const std::string type(findTag(*copy.source, 0)->word());
+    CKvObjectSlot &slot = m_destination.makeSlot(copy.source->role, type);
+    slot.owner = &block;
+    slot.handle = copy.handle;
+    slot.isNew = true;
+    slot.ownBytes() = std::move(copy.bytes);
+    m_destination.entities().add(slot);
+    return slot;
 }
 
 void CKvObjectImporter::replaceContent(CKvObjectSlot &target,

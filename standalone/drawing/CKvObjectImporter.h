@@ -10,6 +10,7 @@
 #include <string_view>
 
 class CKvDrawingStore;
+class CKvTagReader;
 class CKvObjectSlot;
 
 /// What becomes of a source's extended data.
@@ -56,9 +57,22 @@ private:
     std::string translatedText(const CKvObjectSlot &source, std::string_view value) const;
     void bringNames(const CKvObjectSlot &source);
     void cloneContents(CKvObjectSlot &sourceBlock, CKvObjectSlot &block);
-    CKvObjectSlot &cloneEntity(CKvObjectSlot &source, CKvObjectSlot &block);
+    /// An entity of another drawing, ready to enter this one.
+    struct Copy {
+        CKvObjectSlot *source = nullptr;
+        std::uint64_t handle = 0;
+        std::string bytes;
+    };
+    Copy copyOf(CKvObjectSlot &source, std::uint64_t owner);
+    CKvObjectSlot &enter(Copy &copy, CKvObjectSlot &block);
+    QString freeAnonymousName(const QString &name) const;
+    CKvObjectSlot &counterpartOrClone(CKvObjectSlot &source, CKvTableKind kind);
+    void appendTranslated(std::string &bytes, const CKvObjectSlot &source, const CKvTag &tag);
+    void skipNewerFlag(CKvTagReader &reader) const;
     bool isAllowed(int code) const;
 
     CKvDrawingStore &m_destination;
     std::map<const CKvObjectSlot *, CKvObjectSlot *> m_clones;
+    /// Anonymous blocks by their folded name in the source.
+    std::map<QString, QString> m_newBlockNames;
 };

@@ -151,6 +151,34 @@ TEST(Cloning, ABlockComesWithItsContentsAndWhatTheyName)
     }
 }
 
+TEST(Cloning, AnAnonymousBlockComesUnderANewNameAndPartsStayWithTheirPolyline)
+{
+    CKvDrawingBuilder standards;
+    standards.withDefaults().layer("ARROWS");
+    standards.block("*U1").polyline("ARROWS").vertex(0, 0).lastChild().layer("ARROWS");
+    standards.block("BIG").insert("*U1");
+    CKvDrawingBuilder builder;
+    builder.withDefaults().block("*U1").line();
+    const OdDbDatabasePtr source = standards.open();
+    const OdDbDatabasePtr drawing = builder.open();
+
+    clone(source,
+          tableOf(source->getBlockTableId())->getAt(OdString("BIG")),
+          drawing,
+          drawing->getBlockTableId());
+    const OdDbBlockTableRecordPtr block(
+        tableOf(drawing->getBlockTableId())->getAt(OdString("*U2")).openObject());
+    ASSERT_FALSE(block.isNull());
+    block->newIterator()
+        ->entity(OdDb::kForWrite)
+        ->setLayer(tableOf(drawing->getLayerTableId())->getAt(OdString("0")));
+
+    const QByteArray text = CKvDrawingFile::toBytes(*reopened(drawing));
+    EXPECT_EQ(text.count("  2\n*U2\n"), 3);
+    EXPECT_EQ(text.count("  8\nARROWS\n"), 0);
+    EXPECT_TRUE(CKvDrawingFile::warnings(*reopened(drawing)).isEmpty());
+}
+
 TEST(HandingOver, TheNewObjectTakesIdHandleStampAndExtendedDataOfTheOldOne)
 {
     CKvDrawingBuilder standards;

@@ -213,3 +213,73 @@ TEST(ObjectLifeOfR12, AnExtensionDictionaryIsRefusedWithTheAdviceToSaveInANewerV
     }
     EXPECT_TRUE(drawing->getNamedObjectsDictionaryId().isNull());
 }
+
+TEST(DictionaryEntries, OfTwoKeysThatDifferInCaseTheFirstCountsAndTheWalkHasItsTwoOrders)
+{
+    CKvDrawingBuilder builder;
+    builder.withDefaults();
+    builder.namedObjects().xrecord("b").group(1, "first");
+    builder.namedObjects().xrecord("B").group(1, "second");
+    builder.namedObjects().xrecord("A").group(1, "third");
+    const OdDbDatabasePtr drawing = builder.open();
+    const OdDbDictionaryPtr root(drawing->getNamedObjectsDictionaryId().openObject());
+    const auto keys = [&](OdDbDictionary::IteratorType type) {
+        QStringList found;
+        for (OdDbDictionaryIteratorPtr walk = root->newIterator(type); !walk->done();
+             walk->next()) {
+            found.append(walk->name().toQString());
+        }
+        return found.join(QLatin1Char(' '));
+    };
+
+    const OdDbXrecordPtr entry(root->getAt(OdString("B"), OdDb::kForRead));
+
+    EXPECT_EQ(entry->rbChain()->getString().toQString(), QStringLiteral("first"));
+    EXPECT_EQ(keys(OdDbDictionary::IteratorType::kStoredOrder), QStringLiteral("b B A"));
+    EXPECT_EQ(keys(OdDbDictionary::IteratorType::kSortedByKey), QStringLiteral("A B b"));
+}
+
+TEST(XrecordData, ComesBackAsItWasSetInR14AndInNewerDrawings)
+{
+    for (const char *version : { "AC1014", "AC1015", "AC1032" }) {
+        CKvDrawingBuilder builder(version);
+        builder.withDefaults();
+        const OdDbDatabasePtr drawing = builder.open();
+        const OdDbDictionaryPtr root(
+            drawing->getNamedObjectsDictionaryId().openObject(OdDb::kForWrite));
+        OdDbXrecordPtr xrecord = OdDbXrecord::createObject();
+        const OdResBufPtr chain = OdResBuf::newRb();
+        const std::pair<int, const char *> values[] = {
+            { 102, "}" }, { 1, "text" }, { 1001, "APP" }, { 280, "7" }
+        };
+        for (const auto &[code, text] : values) {
+            const OdResBufPtr value = OdResBuf::newRb(code);
+            if (code == 280) {
+                value->setInt8(7);
+            } else {
+                value->setString(OdString(text));
+            }
+            chain->insert(value);
+        }
+        const OdResBufPtr handle = OdResBuf::newRb(330);
+        handle->setHandle(OdDbHandle(0xAB));
+        chain->last()->insert(handle);
+        xrecord->setFromRbChain(chain.get());
+
+        root->setAt(OdString("DATA"), xrecord);
+
+        const OdDbDatabasePtr again = CKvDrawingFile::fromBytes(CKvDrawingFile::toBytes(*drawing));
+        const OdDbDictionaryPtr rootAgain(again->getNamedObjectsDictionaryId().openObject());
+        QStringList found;
+        for (OdResBufPtr value =
+                 OdDbXrecordPtr(rootAgain->getAt(OdString("DATA"), OdDb::kForRead))->rbChain();
+             value;
+             value = value->next()) {
+            found.append(QString::number(value->restype()));
+        }
+        EXPECT_EQ(found.join(QLatin1Char(' ')), QStringLiteral("280 1001 1 102 330")) << version;
+        EXPECT_EQ(OdDbXrecordPtr(rootAgain->getAt(OdString("DATA"), OdDb::kForRead))->ownerId(),
+                  rootAgain->objectId())
+            << version;
+    }
+}

@@ -306,3 +306,68 @@ TEST(EntityLayer, AnEntityWithoutLayerIsOnLayerZero)
     EXPECT_EQ(layer->getName().toQString(), QStringLiteral("GHOST"));
     EXPECT_FALSE(layersOf(drawing)->has(OdString("GHOST")));
 }
+
+TEST(EntityLayer, AnAttributeLeavesTheEndMarkOfItsInsertionAlone)
+{
+    CKvDrawingBuilder builder;
+    builder.withDefaults().layer("OLD");
+    builder.layer("NEW");
+    builder.block("DOOR").line();
+    CKvEntityBuilder &door = builder.modelSpace().insert("DOOR").attribute("NR", "7");
+    door.lastChild().layer("OLD");
+    door.endMark().layer("OLD");
+    const OdDbDatabasePtr drawing = builder.open();
+    const OdDbBlockTablePtr blocks(drawing->getBlockTableId().openObject());
+    const OdDbBlockTableRecordPtr space(blocks->getAt(OdString("*Model_Space")).openObject());
+    const OdDbObjectIteratorPtr walk = space->newIterator();
+    walk->step();
+
+    walk->entity(OdDb::kForWrite)->setLayer(layersOf(drawing)->getAt(OdString("NEW")));
+
+    const QByteArray text = CKvDrawingFile::toBytes(*drawing);
+    EXPECT_EQ(text.count("\n  8\nNEW\n"), 1);
+    EXPECT_EQ(text.count("\n  8\nOLD\n"), 1);
+}
+
+TEST(RecordName, ASecondRecordOfANameIsRenamedWithoutTheUsersOfTheFirst)
+{
+    CKvDrawingBuilder builder;
+    builder.withDefaults().layer("A").handle("AA1");
+    builder.layer("A").handle("AA2");
+    builder.modelSpace().line("A");
+    const OdDbDatabasePtr drawing = builder.open();
+
+    OdDbLayerTableRecordPtr(drawing->getOdDbObjectId(OdDbHandle(0xAA2)).openObject(OdDb::kForWrite))
+        ->setName(OdString("Z"));
+
+    EXPECT_EQ(changedLines(builder.toBytes(), CKvDrawingFile::toBytes(*drawing)),
+              (QStringList { QStringLiteral("-A"), QStringLiteral("+Z") }));
+}
+
+TEST(Erasing, PointersToAnErasedRecordAreWrittenAsZeroAndSoftOnesStay)
+{
+    CKvDrawingBuilder builder;
+    builder.withDefaults().layer("GONE").handle("AA1");
+    builder.namedObjects().object("IDBUFFER", "HARD").handleOf(340, "LAYER", "GONE");
+    builder.namedObjects().object("IDBUFFER", "SOFT").handleOf(331, "LAYER", "GONE");
+    builder.layer("TELLS").extendedData("APP", { { 1005, "AA1" } });
+    const OdDbDatabasePtr drawing = builder.open();
+
+    drawing->getOdDbObjectId(OdDbHandle(0xAA1)).openObject(OdDb::kForWrite)->erase();
+
+    const QByteArray text = CKvDrawingFile::toBytes(*drawing);
+    EXPECT_TRUE(text.contains("\n340\n0\n"));
+    EXPECT_TRUE(text.contains("\n331\nAA1\n"));
+    EXPECT_TRUE(text.contains("\n1005\n0\n"));
+}
+
+TEST(LayerRecord, OfTwoTrueColoursNoneIsLeftWhenAnIndexIsSet)
+{
+    CKvDrawingBuilder builder("AC1032");
+    builder.layer("WALLS").color(1).group(420, 255).group(420, 65280);
+    const OdDbDatabasePtr drawing = builder.open();
+
+    layerOf(drawing, "WALLS", OdDb::kForWrite)->setColor(OdCmColor::byIndex(5));
+
+    EXPECT_EQ(layerOf(drawing, "WALLS")->color(), OdCmColor::byIndex(5));
+}
