@@ -2,6 +2,7 @@
 #include "CKvDrawingRepair.h"
 
 #include "CKvDrawingFile.h"
+#include "CKvDrawingStore.h"
 #include "reportFailure.h"
 #include "unifiedDiff.h"
 #include "writeRepairedDrawing.h"
@@ -36,7 +37,7 @@ void CKvDrawingRepair::attempt(CKvDrawingReport &report)
     report.repaired.clear();
     report.notRepaired.clear();
     m_drawing = CKvDrawingFile::open(m_path, CKvFileImage::Holding::Copied);
-    m_before = CKvDrawingFile::toBytes(*m_drawing);
+
     report.warnings = CKvDrawingFile::warnings(*m_drawing);
     CKvDrawingCheck check(m_session, m_drawing);
     check.run();
@@ -57,6 +58,11 @@ void CKvDrawingRepair::attempt(CKvDrawingReport &report)
         check.run();
         report.violations = check.describe();
     }
+}
+
+std::string_view CKvDrawingRepair::before() const
+{
+    return m_drawing->store().image()->bytes();
 }
 
 CKvDrawingRepair::Plan CKvDrawingRepair::plan(const CKvDrawingCheck &check,
@@ -156,8 +162,9 @@ CKvDrawingReport repairDrawing(CKvBatchSession &session,
         CKvDrawingRepair repair(session, options, path);
         repair.run(report);
         if (options.wantsDifference) {
-            report.difference =
-                unifiedDiff(repair.before(), CKvDrawingFile::toBytes(*repair.drawing()), path);
+            const QByteArray after = CKvDrawingFile::toBytes(*repair.drawing());
+            report.difference = unifiedDiff(
+                repair.before(), { after.constData(), std::size_t(after.size()) }, path);
         }
         if (!options.isDryRun && !output.isEmpty()) {
             report.output = writeRepairedDrawing(repair, path, output, options.keepsBackup);

@@ -24,7 +24,7 @@ public:
     /// Never null once run has ended.
     const OdDbDatabasePtr &drawing() const { return m_drawing; }
     /// The file as it was read.
-    const QByteArray &before() const { return m_before; }
+    std::string_view before() const;
 
 private:
     /// What is to be done about one violation.
@@ -45,7 +45,7 @@ private:
     const CKvFixOptions &m_options;
     QString m_path;
     OdDbDatabasePtr m_drawing;
-    QByteArray m_before;
+
     /// Places of violations whose repair threw, with the reason.
     std::map<int, QString> m_failures;
     bool m_hasNewFailure = false;

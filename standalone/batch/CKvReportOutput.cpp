@@ -45,8 +45,9 @@ void CKvReportOutput::flush()
 
 bool CKvReportOutput::close()
 {
+    // A disk that is full may show here for the first time; the old file then stays.
     flush();
-    if (m_saveFile && !m_saveFile->commit()) {
+    if (m_saveFile && !m_hasFailed && !m_saveFile->commit()) {
         m_hasFailed = true;
     }
     return !m_hasFailed;

@@ -7,6 +7,8 @@
 
 #include <QFileInfo>
 
+#include <algorithm>
+
 namespace
 {
 
@@ -53,6 +55,15 @@ QString fileTrouble(const CKvStandardsFileReport &file)
         break;
     }
     return {};
+}
+
+/// Whether any row has values in columns; sentences need no heading.
+bool hasValues(const std::vector<CKvTextTable::Row> &rows)
+{
+    const std::size_t columns = violationHeading().size();
+    return std::any_of(rows.begin(), rows.end(), [columns](const CKvTextTable::Row &row) {
+        return row.size() == columns;
+    });
 }
 
 CKvTextTable::Row repairRow(const CKvRepairReport &repair, const QString &verb, CKvTextStyle style)
@@ -132,11 +143,18 @@ QString CKvTextReport::standardsText(const CKvDrawingReport &report) const
 
 QString CKvTextReport::violationsText(const CKvDrawingReport &report) const
 {
-    CKvTextTable table;
+    std::vector<CKvTextTable::Row> rows;
     for (const CKvViolationReport &violation : report.violations) {
         for (CKvTextTable::Row &row : violationRows(violation)) {
-            table.add(std::move(row));
+            rows.push_back(std::move(row));
         }
+    }
+    CKvTextTable table;
+    if (hasValues(rows)) {
+        table.add(violationHeading());
+    }
+    for (CKvTextTable::Row &row : rows) {
+        table.add(std::move(row));
     }
     return table.toText(kIndent, m_isColored);
 }

@@ -98,7 +98,10 @@ CLI::Option *addRepeated(CLI::App &command,
                          QStringList &target,
                          const std::string &description)
 {
-    return addTexts(command, name, target, description)->take_all()->expected(1);
+    return addTexts(command, name, target, description)
+        ->take_all()
+        ->expected(1)
+        ->allow_extra_args(false);
 }
 
 void addCategories(CLI::App &command, QStringList &target)
@@ -187,6 +190,7 @@ public:
     /// @throws CLI::ParseError, CKvUsageError.
     CKvBatchOptions parse(const QStringList &arguments)
     {
+        requireKnownCommand(arguments);
         // The parser takes them from the end.
         std::vector<std::string> reversed;
         for (const QString &argument : arguments) {
@@ -311,6 +315,22 @@ private:
         addFormat(command);
         addChoice(command, "--color", whens(), m_options.drawing.color, "Colours in the text")
             ->type_name("WHEN");
+    }
+
+    /// The parser would only say that a command is missing.
+    void requireKnownCommand(const QStringList &arguments)
+    {
+        const std::string first = arguments.isEmpty() ? "-" : arguments.first().toStdString();
+        const auto hasName = [&first](const CLI::App *command) {
+            return command->check_name(first);
+        };
+        const std::vector<const CLI::App *> commands = std::as_const(m_app).get_subcommands({});
+        if (first.rfind('-', 0) != 0 && std::none_of(commands.begin(), commands.end(), hasName)) {
+            throw CKvUsageError(
+                QStringLiteral("There is no command \"%1\". The commands are check, "
+                               "fix, files, ignore and show.")
+                    .arg(arguments.first()));
+        }
     }
 
     /// What no parser can tell: options that don't go together, categories, the map.

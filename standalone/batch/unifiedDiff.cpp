@@ -10,16 +10,11 @@ namespace
 
 constexpr std::size_t kContext = 3;
 /// A null byte among the first so many bytes makes a file binary.
-constexpr int kBinaryProbe = 8000;
+constexpr std::size_t kBinaryProbe = 8000;
 
-std::string_view viewOf(const QByteArray &bytes)
+bool isBinary(std::string_view bytes)
 {
-    return { bytes.constData(), std::size_t(bytes.size()) };
-}
-
-bool isBinary(const QByteArray &bytes)
-{
-    return bytes.left(kBinaryProbe).contains('\0');
+    return bytes.substr(0, kBinaryProbe).find('\0') != std::string_view::npos;
 }
 
 /// Names with blanks are ended by a tabulator, else they can't be told from what follows.
@@ -84,7 +79,7 @@ void appendHunk(QByteArray &diff,
 
 } // namespace
 
-QByteArray unifiedDiff(const QByteArray &before, const QByteArray &after, const QString &name)
+QByteArray unifiedDiff(std::string_view before, std::string_view after, const QString &name)
 {
     if (before == after) {
         return {};
@@ -92,8 +87,8 @@ QByteArray unifiedDiff(const QByteArray &before, const QByteArray &after, const 
     if (isBinary(before) || isBinary(after)) {
         return "Binary file " + name.toUtf8() + " changes.\n";
     }
-    const CKvLines oldLines(viewOf(before));
-    const CKvLines newLines(viewOf(after));
+    const CKvLines oldLines(before);
+    const CKvLines newLines(after);
     const std::vector<CKvLineEdit> edits = lineDifference(oldLines, newLines);
     QByteArray diff = headLine("---", name) + headLine("+++", name);
     for (EditIterator first = edits.begin(); first != edits.end();) {

@@ -89,6 +89,14 @@ Row differenceRow(const CKvViolationReport &violation,
 
 } // namespace
 
+CKvTextTable::Row violationHeading()
+{
+    const CKvTextStyle bold = CKvTextStyle::Bold;
+    return { { QStringLiteral("Type"), bold },           { QStringLiteral("Name"), bold },
+             { QStringLiteral("Property"), bold },       { QStringLiteral("Current value"), bold },
+             { QStringLiteral("Standard value"), bold }, { QStringLiteral("From"), bold } };
+}
+
 std::vector<CKvTextTable::Row> violationRows(const CKvViolationReport &violation)
 {
     std::vector<Row> rows;

@@ -14,11 +14,12 @@ namespace
 {
 
 /// The copy is made of the bytes that were read, whatever has happened to the file since.
-void writeBackup(const QByteArray &bytes, const QString &path)
+void writeBackup(std::string_view bytes, const QString &path)
 {
     QSaveFile backup(path + QStringLiteral(".bak"));
-    const bool isWritten =
-        backup.open(QIODevice::WriteOnly) && backup.write(bytes) == bytes.size() && backup.commit();
+    const bool isWritten = backup.open(QIODevice::WriteOnly)
+        && backup.write(bytes.data(), qint64(bytes.size())) == qint64(bytes.size())
+        && backup.flush() && backup.commit();
     if (!isWritten) {
         throw CKvDxfError(backup.fileName(), 0, backup.errorString() + QLatin1Char('.'));
     }
