@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: MIT
+#include "collectDrawings.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+namespace
+{
+
+class CollectDrawings : public ::testing::Test
+{
+protected:
+    void makeFile(const char *name)
+    {
+        const QString path = folder.filePath(QString::fromUtf8(name));
+        QDir().mkpath(QFileInfo(path).absolutePath());
+        ASSERT_TRUE(QFile(path).open(QIODevice::WriteOnly));
+    }
+    /// "path -> relative path" a line, the folder of the test as "/".
+    std::string collected(const QStringList &inputs) const
+    {
+        std::string lines;
+        for (const CKvDrawingInput &drawing : collectDrawings(inputs, QString()).drawings) {
+            QString path = drawing.path;
+            path.replace(folder.path(), QString());
+            lines += path.toStdString() + " -> " + drawing.relativePath.toStdString() + "\n";
+        }
+        return lines;
+    }
+
+    QTemporaryDir folder;
+};
+
+} // namespace
+
+TEST_F(CollectDrawings, AFolderGivesItsDrawingsByName)
+{
+    makeFile("b.dxf");
+    makeFile("a.dws");
+    makeFile("c.DWS");
+    makeFile("sub/deep/a.dxf");
+    makeFile("a.dwg");
+    makeFile("dxf");
+
+    EXPECT_EQ(
+        collected({ folder.path() }),
+        "/a.dws -> a.dws\n/b.dxf -> b.dxf\n/c.DWS -> c.DWS\n/sub/deep/a.dxf -> sub/deep/a.dxf\n");
+    EXPECT_EQ(collected({ folder.path() + QStringLiteral("/sub/") }),
+              "/sub/deep/a.dxf -> deep/a.dxf\n");
+}
+
+TEST_F(CollectDrawings, ANamedDrawingMayHaveAnyNameAndNeedNotExist)
+{
+    makeFile("plan");
+
+    EXPECT_EQ(collected({ folder.filePath(QStringLiteral("sub/gone.dxf")),
+                          folder.filePath(QStringLiteral("plan")) }),
+              "/sub/gone.dxf -> gone.dxf\n/plan -> plan\n");
+}
+
+TEST_F(CollectDrawings, AFolderCalledLikeADrawingIsAFolder)
+{
+    makeFile("plans.dxf/a.dxf");
+
+    EXPECT_EQ(collected({ folder.path() }), "/plans.dxf/a.dxf -> plans.dxf/a.dxf\n");
+    EXPECT_EQ(collected({ folder.filePath(QStringLiteral("plans.dxf")) }),
+              "/plans.dxf/a.dxf -> a.dxf\n");
+}
+
+TEST_F(CollectDrawings, AListThatCannotBeReadIsAnError)
+{
+    const CKvDrawingList list = collectDrawings({}, folder.filePath(QStringLiteral("gone.txt")));
+
+    EXPECT_TRUE(list.drawings.empty());
+    EXPECT_EQ(list.errors.size(), 1);
+}
