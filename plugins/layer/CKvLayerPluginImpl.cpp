@@ -220,10 +220,10 @@ QString CKvLayerPluginImpl::twinKey(const CKvStdsRecord &record) const
     } else if (color.isByIndex()) {
         value = color.colorIndex();
     }
+    // A zero behind the line style: names can hold any other character.
     return QString::number(int(color.method())) + QLatin1Char('/') + QString::number(value)
         + QLatin1Char('/') + QString::number(int(layer.lineWeight)) + QLatin1Char('/')
-        + foldCase(layer.lineStyleName.toQString()) + QLatin1Char('/')
-        + color.bookName().toQString();
+        + foldCase(layer.lineStyleName.toQString()) + QChar(0) + color.bookName().toQString();
 }
 
 QString CKvLayerPluginImpl::sharingKey(const CKvStdsRecord &violation) const

@@ -19,6 +19,7 @@ CKvLayerRepair::CKvLayerRepair(OdDbDatabasePtr drawing,
     , m_error(std::move(error))
     , m_standardsDatabase(std::move(standardsDatabase))
     , m_color(CKvStdsProperty::toColor(fix->property(CKvLayerTexts::lineColorProperty())))
+    , m_hasTarget(!fix->property(CKvLayerTexts::nameProperty()).isNull())
     , m_targetName(CKvStdsProperty::toText(fix->property(CKvLayerTexts::nameProperty())))
     , m_lineStyleName(CKvStdsProperty::toText(fix->property(CKvLayerTexts::lineStyleProperty())))
     , m_standardsFile(fix->standardsFile())
@@ -30,7 +31,7 @@ CKvLayerRepair::CKvLayerRepair(OdDbDatabasePtr drawing,
 
 void CKvLayerRepair::run()
 {
-    if (m_targetName.isEmpty()) {
+    if (!m_hasTarget) {
         return;
     }
     // Open until the end, so that nobody takes the layer away meanwhile.

@@ -43,6 +43,8 @@ private:
     DatabaseSource m_standardsDatabase;
     OdCmColor m_color;
     OdDb::LineWeight m_lineWeight = OdDb::kLineWeightByDefault;
+    /// False for the empty fix of a violation without recommendation.
+    bool m_hasTarget;
     CKvString m_targetName;
     CKvString m_lineStyleName;
     CKvString m_standardsFile;
