@@ -9,7 +9,8 @@
 #include <cstdint>
 #include <map>
 
-/// One violation: which object, what is wrong in words, and the object's values when it was checked.
+/// One violation: which object, what is wrong in words, and the object's values when it was
+/// checked.
 class CKvStdsError : public OdRxObject
 {
 public:

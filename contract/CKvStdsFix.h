@@ -9,8 +9,8 @@
 #include <cstdint>
 #include <map>
 
-/// One candidate repair: a record of a standards file with its values. Shared by all violations that
-/// offer the record, so never changed once it was made.
+/// One candidate repair: a record of a standards file with its values. Shared by all violations
+/// that offer the record, so never changed once it was made.
 class CKvStdsFix : public OdRxObject
 {
 public:

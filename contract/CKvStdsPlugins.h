@@ -21,7 +21,8 @@ using CKvStdsPluginsPtr = OdSmartPtr<CKvStdsPlugins>;
 
 /// Checks one category of table records against standards drawings. A run goes: clear,
 /// setObjectsToCheck, openStandards, beginScan, then currentError, collectFixes, nextError until
-/// isDone. Afterwards, until the next clear, propertyDifferences and applyFix work on what was found.
+/// isDone. Afterwards, until the next clear, propertyDifferences and applyFix work on what was
+/// found.
 class CKvStdsPlugins : public OdRxObject
 {
 public:
@@ -43,8 +44,7 @@ public:
     virtual void openStandards(OdDbDatabasePtr drawing,
                                CKvString drawingName,
                                std::vector<CKvString> standardsNames,
-                               std::vector<CKvString> standardsPaths)
-        = 0;
+                               std::vector<CKvString> standardsPaths) = 0;
     /// The names behind group 0 of the objects that the category checks.
     virtual std::vector<CKvString> objectFilter() = 0;
     virtual CKvString authorName() const = 0;
@@ -69,11 +69,11 @@ public:
     /// @throws OdError of the drawing library.
     virtual void applyFix(CKvStdsErrorPtr error, CKvStdsFixPtr fix, CKvString &message) = 0;
     /// Appends the candidates.
-    /// @param recommended index of the recommended one in what was appended to an empty array, or -1.
+    /// @param recommended index of the recommended one in what was appended to an empty array, or
+    /// -1.
     virtual void collectFixes(CKvStdsErrorPtr error,
                               OdArray<CKvStdsFixPtr> &fixes,
-                              std::int32_t &recommended)
-        = 0;
+                              std::int32_t &recommended) = 0;
     /// Null when the scan is done.
     virtual CKvStdsErrorPtr currentError() const = 0;
     /// The rows of the preview: names, values of the object, values of the repair.
@@ -83,8 +83,7 @@ public:
                                      std::vector<CKvString> &names,
                                      OdArray<OdResBufPtr> &objectValues,
                                      OdArray<OdResBufPtr> &fixValues,
-                                     std::vector<CKvString> &units)
-        = 0;
+                                     std::vector<CKvString> &units) = 0;
     /// @return a new fix like the recommended candidate; an empty one when there is none.
     virtual CKvStdsFixPtr recommendedFix(CKvStdsErrorPtr error) = 0;
     virtual void releaseError(CKvStdsErrorPtr &error) = 0;

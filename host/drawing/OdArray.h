@@ -10,8 +10,7 @@
 
 /// A growing array whose copies share their elements until one of them is changed. Indexes outside
 /// the array throw OdError_InvalidIndex; memory that can't be had throws OdError 9.
-template <class T>
-class OdArray
+template <class T> class OdArray
 {
 public:
     using const_iterator = typename std::vector<T>::const_iterator;
@@ -80,7 +79,8 @@ public:
 
     friend bool operator==(const OdArray &a, const OdArray &b)
     {
-        return a.sharesWith(b) || (a.size() == b.size() && std::equal(a.begin(), a.end(), b.begin()));
+        return a.sharesWith(b)
+            || (a.size() == b.size() && std::equal(a.begin(), a.end(), b.begin()));
     }
 
 private:
@@ -95,8 +95,7 @@ private:
             throw OdError_InvalidIndex();
         }
     }
-    template <class Action>
-    static void guardMemory(Action action)
+    template <class Action> static void guardMemory(Action action)
     {
         try {
             action();

@@ -16,7 +16,6 @@ public:
 
     /// Flag 4 or 8 on the BLOCK.
     bool isFromExternalReference() const;
-    OdDbObjectIteratorPtr newIterator(bool fromBeginning = true,
-                                      bool skipErased = true,
-                                      bool isSorted = false) const;
+    OdDbObjectIteratorPtr
+    newIterator(bool fromBeginning = true, bool skipErased = true, bool isSorted = false) const;
 };

@@ -38,10 +38,11 @@ public:
 
     /// The object of that handle, null when there is none.
     OdDbObjectId getOdDbObjectId(OdDbHandle handle) const;
-    /// Makes a new object, or one of another drawing, part of this one. The object keeps its values;
-    /// what it names in the other drawing (the text styles of a line style) is translated.
+    /// Makes a new object, or one of another drawing, part of this one. The object keeps its
+    /// values; what it names in the other drawing (the text styles of a line style) is translated.
     /// @param handle null for the next free one.
-    OdDbObjectId addOdDbObject(const OdDbObjectPtr &object, OdDbObjectId ownerId, OdDbHandle handle = {});
+    OdDbObjectId
+    addOdDbObject(const OdDbObjectPtr &object, OdDbObjectId ownerId, OdDbHandle handle = {});
 
     /// The current layer, header variable CLAYER.
     OdDbObjectId getCLAYER() const;
@@ -52,7 +53,10 @@ public:
     /// Loads a line style from a .lin file.
     /// @throws OdError 156 when the file can't be opened or has no style of that name, OdError of
     /// another code when the definition can't be read or the drawing has a style of that name.
-    void loadLineTypeFile(const OdString &name, const OdString &path, int duplicateHandling = 0, int flags = 0);
+    void loadLineTypeFile(const OdString &name,
+                          const OdString &path,
+                          int duplicateHandling = 0,
+                          int flags = 0);
 
     /// Clones objects of this drawing into another, with what they name and the other one lacks.
     /// @param ownerId the table of the destination that takes them.

@@ -6,7 +6,8 @@
 class OdDbDatabase;
 class OdDbObject;
 
-/// Learns what happens to the objects of the databases it is attached to. The bodies here do nothing.
+/// Learns what happens to the objects of the databases it is attached to. The bodies here do
+/// nothing.
 class KV_HOST_API OdDbDatabaseReactor : public OdRxObject
 {
 public:
@@ -21,5 +22,6 @@ public:
     /// When a changed object closes.
     virtual void objectModified(const OdDbDatabase *database, const OdDbObject *object);
     /// @param isErased false when the object is brought back.
-    virtual void objectErased(const OdDbDatabase *database, const OdDbObject *object, bool isErased);
+    virtual void
+    objectErased(const OdDbDatabase *database, const OdDbObject *object, bool isErased);
 };

@@ -22,8 +22,8 @@ public:
     /// The object itself, open; null when the key is missing or leads to nothing.
     OdDbObjectPtr getAt(const OdString &key, OdDb::OpenMode mode) const;
     bool has(const OdString &key) const { return !getAt(key).isNull(); }
-    /// Adds an entry, or replaces one; the object that was there is erased. The object becomes part of
-    /// this dictionary's drawing.
+    /// Adds an entry, or replaces one; the object that was there is erased. The object becomes part
+    /// of this dictionary's drawing.
     OdDbObjectId setAt(const OdString &key, const OdDbObjectPtr &object);
     /// Takes an entry out and erases its object; does nothing when the key is missing.
     void remove(const OdString &key);

@@ -22,6 +22,5 @@ public:
                                      bool allowCodePageConversion,
                                      bool partialLoad,
                                      int shareMode,
-                                     const OdString &password)
-        = 0;
+                                     const OdString &password) = 0;
 };

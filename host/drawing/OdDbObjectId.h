@@ -12,8 +12,8 @@ class OdDbDatabase;
 class OdDbObject;
 using OdDbObjectPtr = OdSmartPtr<OdDbObject>;
 
-/// Names an object of an open drawing for as long as the drawing is open, erased or not. As small as
-/// a pointer; null by default.
+/// Names an object of an open drawing for as long as the drawing is open, erased or not. As small
+/// as a pointer; null by default.
 class KV_HOST_API OdDbObjectId
 {
 public:
@@ -34,7 +34,8 @@ public:
     /// @return the object, or null: no id, or erased and not openErased.
     OdDbObjectPtr openObject(OdDb::OpenMode mode = OdDb::kForRead, bool openErased = false) const;
     /// As openObject, but throws OdError (kNullObjectId, kObjectWasErased) in place of null.
-    OdDbObjectPtr safeOpenObject(OdDb::OpenMode mode = OdDb::kForRead, bool openErased = false) const;
+    OdDbObjectPtr safeOpenObject(OdDb::OpenMode mode = OdDb::kForRead,
+                                 bool openErased = false) const;
 
     friend bool operator==(OdDbObjectId a, OdDbObjectId b) { return a.m_slot == b.m_slot; }
     friend bool operator!=(OdDbObjectId a, OdDbObjectId b) { return a.m_slot != b.m_slot; }

@@ -9,8 +9,8 @@ class CKvEntityWalk;
 class OdDbObjectIterator;
 using OdDbObjectIteratorPtr = OdSmartPtr<OdDbObjectIterator>;
 
-/// Walks the entities of a block in the order of the file, the attributes of an insertion behind it.
-/// Vertices and end marks belong to their polyline or insertion and are not met.
+/// Walks the entities of a block in the order of the file, the attributes of an insertion behind
+/// it. Vertices and end marks belong to their polyline or insertion and are not met.
 class KV_HOST_API OdDbObjectIterator : public OdRxObject
 {
 public:

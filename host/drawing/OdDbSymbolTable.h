@@ -18,7 +18,8 @@ public:
     /// Null when there is no such record.
     OdDbObjectId getAt(const OdString &name, bool getErased = false) const;
     /// The record itself, open; null when there is none.
-    OdDbSymbolTableRecordPtr getAt(const OdString &name, OdDb::OpenMode mode, bool getErased = false) const;
+    OdDbSymbolTableRecordPtr
+    getAt(const OdString &name, OdDb::OpenMode mode, bool getErased = false) const;
     bool has(const OdString &name) const { return !getAt(name).isNull(); }
     OdDbSymbolTableIteratorPtr newIterator(bool fromBeginning = true, bool skipErased = true) const;
     /// Enters a record in the table; one that addOdDbObject put into this drawing keeps its id.

@@ -21,7 +21,8 @@ public:
     void step(bool forward = true, bool skipErased = true);
     OdDbObjectId getRecordId() const;
     /// @throws OdError when the walk is done.
-    OdDbSymbolTableRecordPtr getRecord(OdDb::OpenMode mode = OdDb::kForRead, bool openErased = false) const;
+    OdDbSymbolTableRecordPtr getRecord(OdDb::OpenMode mode = OdDb::kForRead,
+                                       bool openErased = false) const;
 
 private:
     std::unique_ptr<CKvSymbolTableWalk> m_walk;

@@ -16,8 +16,8 @@ public:
     /// Group 2, blanks at the ends included.
     OdString getName() const;
     /// Renames the record and rewrites the name wherever the drawing uses it.
-    /// @throws OdError for an empty name, a name with a character that names can't have, a name that
-    /// another record has, and for layer 0 and the reserved line styles.
+    /// @throws OdError for an empty name, a name with a character that names can't have, a name
+    /// that another record has, and for layer 0 and the reserved line styles.
     void setName(const OdString &name);
     /// True for a record of an external reference: flag 16 of group 70, or a bar in the name.
     bool isDependent() const;

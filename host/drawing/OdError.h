@@ -7,7 +7,8 @@
 #include <string>
 #include <utility>
 
-/// Result codes of the drawing library that callers tell apart. Others exist; they are told by text.
+/// Result codes of the drawing library that callers tell apart. Others exist; they are told by
+/// text.
 enum class OdResult : int {
     kUnspecified = 1,
     kInvalidInput = 3,
@@ -71,7 +72,8 @@ class KV_HOST_API OdError_NotThatKindOfClass : public OdError
 {
 public:
     explicit OdError_NotThatKindOfClass(const std::string &found, const std::string &wanted)
-        : OdError(OdResult::kNotThatKindOfClass, "An object of class " + found + " is no " + wanted + ".")
+        : OdError(OdResult::kNotThatKindOfClass,
+                  "An object of class " + found + " is no " + wanted + ".")
     {
     }
 };
@@ -81,7 +83,8 @@ class KV_HOST_API OdError_InvalidSysvarValue : public OdError
 {
 public:
     explicit OdError_InvalidSysvarValue(const std::string &variable)
-        : OdError(OdResult::kInvalidSysvarValue, "The value is out of the range of " + variable + ".")
+        : OdError(OdResult::kInvalidSysvarValue,
+                  "The value is out of the range of " + variable + ".")
     {
     }
 };

@@ -14,9 +14,9 @@ class OdRxClass;
 class OdResBuf;
 using OdResBufPtr = OdSmartPtr<OdResBuf>;
 
-/// One value with its type code, a link of a chain. A code below 1072 is a group code of the drawing
-/// file; the codes from 5000 on exist in memory only. A getter of another type than the value's gives
-/// 0, false, an empty text or by layer.
+/// One value with its type code, a link of a chain. A code below 1072 is a group code of the
+/// drawing file; the codes from 5000 on exist in memory only. A getter of another type than the
+/// value's gives 0, false, an empty text or by layer.
 class KV_HOST_API OdResBuf : public OdRxObject
 {
 public:

@@ -41,5 +41,5 @@ public:
     virtual OdRxObjectPtr clone() const;
 
 private:
-    std::atomic<long> m_references{1};
+    std::atomic<long> m_references { 1 };
 };

@@ -6,15 +6,15 @@
 #include <type_traits>
 #include <utility>
 
-/// Tells the compiler that a raw pointer already carries the reference that the smart pointer takes.
+/// Tells the compiler that a raw pointer already carries the reference that the smart pointer
+/// takes.
 enum class OdAttach { kAttach };
 constexpr OdAttach kOdRxObjAttach = OdAttach::kAttach;
 
 /// A counted pointer. Turned into one of a derived class by explicit construction, which throws
 /// OdError_NotThatKindOfClass when the object is of another class (null stays null), or by
 /// T::cast, which gives null.
-template <class T>
-class OdSmartPtr
+template <class T> class OdSmartPtr
 {
 public:
     OdSmartPtr() = default;
@@ -75,12 +75,17 @@ public:
     /// Gives the reference to the caller.
     T *detach() { return std::exchange(m_object, nullptr); }
 
-    friend bool operator==(const OdSmartPtr &a, const OdSmartPtr &b) { return a.m_object == b.m_object; }
-    friend bool operator!=(const OdSmartPtr &a, const OdSmartPtr &b) { return a.m_object != b.m_object; }
+    friend bool operator==(const OdSmartPtr &a, const OdSmartPtr &b)
+    {
+        return a.m_object == b.m_object;
+    }
+    friend bool operator!=(const OdSmartPtr &a, const OdSmartPtr &b)
+    {
+        return a.m_object != b.m_object;
+    }
 
 private:
-    template <class U>
-    static T *castOrThrow(U *object)
+    template <class U> static T *castOrThrow(U *object)
     {
         if (!object) {
             return nullptr;

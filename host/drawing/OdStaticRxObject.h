@@ -2,8 +2,7 @@
 #pragma once
 
 /// An object that its owner holds by value or by bare pointer: counting references does nothing.
-template <class T>
-class OdStaticRxObject : public T
+template <class T> class OdStaticRxObject : public T
 {
 public:
     using T::T;

@@ -27,7 +27,10 @@ public:
     /// Less than, equal to or greater than 0, by code unit.
     int compare(const OdString &other) const { return m_text.compare(other.m_text); }
     /// As compare, each character folded by itself: "ß" is not "SS".
-    int iCompare(const OdString &other) const { return m_text.compare(other.m_text, Qt::CaseInsensitive); }
+    int iCompare(const OdString &other) const
+    {
+        return m_text.compare(other.m_text, Qt::CaseInsensitive);
+    }
     const QString &toQString() const { return m_text; }
 
     friend bool operator==(const OdString &a, const OdString &b) { return a.m_text == b.m_text; }

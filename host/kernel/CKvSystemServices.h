@@ -17,7 +17,8 @@ public:
     /// Searches a support file by its bare name.
     /// @param database of the document whose folder counts too; null for none.
     /// @return its full path, empty when there is none.
-    virtual CKvString findFile(const CKvString &name, int hint, OdDbDatabase *database, int flags) = 0;
+    virtual CKvString
+    findFile(const CKvString &name, int hint, OdDbDatabase *database, int flags) = 0;
     /// Never null.
     virtual OdDbHostAppServices *hostAppServices() = 0;
     /// Never null.
