@@ -70,7 +70,7 @@ OdDbDatabasePtr CKvFakeServices::readFile(const OdString &path,
     if (found == m_drawings.end()) {
         return OdDbDatabasePtr();
     }
-    const OdDbDatabasePtr drawing = CKvDrawingFile::fromBytes(found->second, name);
+    OdDbDatabasePtr drawing = CKvDrawingFile::fromBytes(found->second, name);
     m_lastRead[name] = drawing;
     return drawing;
 }
