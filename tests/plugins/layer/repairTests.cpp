@@ -71,6 +71,17 @@ TEST_F(LayerRepair, AnUpdatePurgesNothing)
     EXPECT_EQ(lineStyles(), "ByBlock\nByLayer\nContinuous\nDASHED\n");
 }
 
+TEST_F(LayerRepair, ALayerThatNothingUsesIsNotPurgedWhenOnlyItsLettersDiffer)
+{
+    m_drawing.layer("walls").color(1);
+    m_office.layer("WALLS").color(5);
+    report();
+
+    repair("walls", "WALLS");
+
+    EXPECT_EQ(layers(), "walls blue Continuous -3\n");
+}
+
 TEST_F(LayerRepair, ANewNameRenamesTheLayerInPlace)
 {
     m_drawing.layer("WALL").color(1);

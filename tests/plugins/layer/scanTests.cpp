@@ -22,6 +22,11 @@ struct CKvLayerPair {
     void (*change)(CKvLayerBuilder &drawn, CKvLayerBuilder &standard);
 };
 
+void PrintTo(const CKvLayerPair &pair, std::ostream *out)
+{
+    *out << pair.what;
+}
+
 class LayerAgreement : public CKvLayerTest, public testing::WithParamInterface<CKvLayerPair>
 {
 };
