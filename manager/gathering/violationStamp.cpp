@@ -35,7 +35,7 @@ void readRecord(const OdDbXrecord &record, StampValues &values)
 
 OdResBufPtr stampChain(bool isIgnored)
 {
-    const OdResBufPtr head = OdResBuf::newRb();
+    OdResBufPtr head = OdResBuf::newRb();
     const OdResBufPtr flag = OdResBuf::newRb(kFlagCode);
     flag->setInt32(isIgnored ? 1 : 0);
     const OdResBufPtr user = OdResBuf::newRb(kUserCode);

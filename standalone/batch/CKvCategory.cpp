@@ -45,6 +45,7 @@ const std::vector<const CKvCategory *> &allCategories()
 {
     static const std::vector<const CKvCategory *> s_all = [] {
         std::vector<const CKvCategory *> all;
+        all.reserve(kCategories.size());
         for (const CKvCategory &category : kCategories) {
             all.push_back(&category);
         }

@@ -14,6 +14,13 @@ constexpr int kManyEqualLines = 2;
 /// A place outside of one of the texts.
 constexpr int kOutside = -1000000;
 
+/// Where a diagonal stands among those that so many edits can reach.
+std::size_t slotOf(int edits, int diagonal)
+{
+    const int slot = diagonal + edits;
+    return std::size_t(slot);
+}
+
 } // namespace
 
 CKvEditWalk::CKvEditWalk(const CKvLines &before,
@@ -50,7 +57,7 @@ bool CKvEditWalk::extend(int edits)
             continue;
         }
         const int place = placeAfterEqualLines(begin, diagonal);
-        m_reach.back()[std::size_t(diagonal + edits)] = place;
+        m_reach.back()[slotOf(edits, diagonal)] = place;
         const bool isAgreement = place - begin >= kAgreement || isEnd(place, diagonal);
         if (isAgreement || 2 * place - diagonal > furthest) {
             furthest = 2 * place - diagonal;
@@ -81,7 +88,7 @@ std::vector<CKvEditWalk::Step> CKvEditWalk::steps() const
 int CKvEditWalk::reach(int edits, int diagonal) const
 {
     const bool isReached = diagonal >= -edits && diagonal <= edits;
-    return isReached ? m_reach[std::size_t(edits)][std::size_t(diagonal + edits)] : kOutside;
+    return isReached ? m_reach[std::size_t(edits)][slotOf(edits, diagonal)] : kOutside;
 }
 
 bool CKvEditWalk::isInsertion(int edits, int diagonal) const

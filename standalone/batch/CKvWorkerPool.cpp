@@ -17,11 +17,12 @@ void CKvWorkerPool::run(const std::vector<CKvDrawingJob> &jobs, const Deliver &d
     m_next = 0;
     m_done = 0;
     // From within the loop: a process that can't be started reports before start returns.
-    QTimer::singleShot(0, [&] {
+    const auto startAll = [&] {
         for (const auto &worker : m_workers) {
             startNext(*worker, jobs, deliver);
         }
-    });
+    };
+    QMetaObject::invokeMethod(&m_loop, startAll, Qt::QueuedConnection);
     if (!jobs.empty()) {
         m_loop.exec();
     }
@@ -43,6 +44,7 @@ void CKvWorkerPool::startNext(CKvWorker &worker,
             return;
         }
         // The next job waits for the event loop, so that failures one after the other don't nest.
-        QTimer::singleShot(0, [&] { startNext(worker, jobs, deliver); });
+        const auto startAnother = [&] { startNext(worker, jobs, deliver); };
+        QMetaObject::invokeMethod(&m_loop, startAnother, Qt::QueuedConnection);
     });
 }

@@ -16,7 +16,7 @@ namespace
 QString identity(const QString &path)
 {
     const QFileInfo file(absolutePath(path));
-    const QString target = file.canonicalFilePath();
+    QString target = file.canonicalFilePath();
     if (!target.isEmpty()) {
         return target;
     }
@@ -81,6 +81,7 @@ std::vector<CKvDrawingJob> chooseOutputs(const std::vector<CKvDrawingInput> &dra
                                          const CKvRunOptions &options)
 {
     std::vector<CKvDrawingJob> jobs;
+    jobs.reserve(drawings.size());
     for (const CKvDrawingInput &drawing : drawings) {
         jobs.push_back({ drawing.path, outputFor(drawing, options) });
     }
