@@ -83,7 +83,8 @@ TEST(LargeFault, ManyRecordsOfOneName)
     const QByteArray bytes = header()
         + section("TABLES",
                   "0\nTABLE\n2\nLAYER\n70\n1\n"
-                      + QByteArray("0\nLAYER\n2\nWALLS\n70\n0\n").repeated(kMany / 4) + "0\nENDTAB\n")
+                      + QByteArray("0\nLAYER\n2\nWALLS\n70\n0\n").repeated(kMany / 4)
+                      + "0\nENDTAB\n")
         + "0\nEOF\n";
 
     EXPECT_EQ(kindOf(outcomeAfterEditing(bytes)), "loads with warnings");
