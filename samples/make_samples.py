@@ -13,6 +13,12 @@ import os
 import sys
 from pathlib import Path
 
+# Sets decide about the order of some sections, and the order of a set about nothing but the seed,
+# which is read when the interpreter starts.
+if os.environ.get("PYTHONHASHSEED") != "0":
+    os.environ["PYTHONHASHSEED"] = "0"
+    os.execv(sys.executable, [sys.executable, *sys.argv])
+
 # Both would let the machine decide about digits and text widths. They are read by the first import.
 os.environ["EZDXF_DISABLE_C_EXT"] = "1"
 sys.dont_write_bytecode = True

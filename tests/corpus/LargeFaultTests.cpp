@@ -94,8 +94,13 @@ TEST(LargeFault, DictionariesOneWithinTheOtherAreErasedWithWhatTheyHangOn)
 {
     QByteArray objects;
     for (int i = 0; i < kMany; ++i) {
-        objects += "0\nDICTIONARY\n5\n" + QByteArray::number(0x100 + i, 16) + "\n3\nNEXT\n360\n"
-            + QByteArray::number(0x101 + i, 16) + '\n';
+        const QByteArray own = QByteArray::number(0x100 + i, 16);
+        const QByteArray next = QByteArray::number(0x101 + i, 16);
+        objects.append("0\nDICTIONARY\n5\n")
+            .append(own)
+            .append("\n3\nNEXT\n360\n")
+            .append(next)
+            .append('\n');
     }
     const QByteArray layer =
         "0\nLAYER\n5\n10\n102\n{ACAD_XDICTIONARY\n360\n100\n102\n}\n2\nWALLS\n";

@@ -39,7 +39,11 @@ QByteArray withEachTag(const QByteArray &drawing,
         change({ drawing.mid(at, codeEnd - at), drawing.mid(codeEnd + 1, valueEnd - codeEnd - 1) },
                written);
         for (const CKvRawTag &tag : written) {
-            changed += tag.code + '\n' + tag.value + '\n';
+            // One after the other: a sum would be appended into memory of just its size.
+            changed += tag.code;
+            changed += '\n';
+            changed += tag.value;
+            changed += '\n';
         }
         at = valueEnd + 1;
     }
