@@ -7,9 +7,12 @@ option(KV_WERROR "Treat warnings as errors" ON)
 # The folders from the ground up. A target links only what stands before it, and nothing of the module
 # links the stand-in host.
 set(KV_MODULE_LAYERS
-    host_drawing host_kernel contract plugins_frame plugins_layer manager_gathering)
+    host_drawing host_kernel host_widgets contract plugins_frame plugins_layer plugins_linestyle
+    plugins_textstyle plugins_valuetext plugins_dimstyle manager_gathering dialogs manager commands
+    KvStandards)
 set(KV_STANDALONE_LAYERS
-    standalone_dxf standalone_drawing standalone_kernel standalone_batch)
+    standalone_dxf standalone_drawing standalone_kernel standalone_widgets standalone_batch
+    standalone_desktop)
 
 function(kv_require_direction NAME)
   list(FIND KV_MODULE_LAYERS ${NAME} MODULE_AT)

@@ -3,6 +3,7 @@
 
 #include "OdDbHandle.h"
 #include "OdDbObjectId.h"
+#include "OdResBuf.h"
 #include "OdRxObject.h"
 #include "OdString.h"
 
@@ -49,6 +50,11 @@ public:
     void setCLAYER(OdDbObjectId layerId);
     /// Header variable MEASUREMENT; 0 (inches) when the file has none, otherwise metric.
     int getMEASUREMENT() const;
+    /// A system variable by its name, letter case aside: a header variable of the drawing,
+    /// "LTSCALE" for instance. Whole numbers of 16 bits have the type 5003, others 5010, reals
+    /// 5001, texts 5005.
+    /// @throws OdError kInvalidInput when there is no such variable.
+    virtual OdResBufPtr getSysVar(const OdString &name) const;
 
     /// Loads a line style from a .lin file.
     /// @throws OdError 156 when the file can't be opened or has no style of that name, OdError of

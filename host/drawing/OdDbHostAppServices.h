@@ -12,6 +12,8 @@ class KV_HOST_API OdDbHostAppServices
 public:
     virtual ~OdDbHostAppServices() = default;
 
+    /// The program's name, for the titles of message boxes.
+    virtual OdString applicationTitle() const = 0;
     /// Opens a drawing.
     /// @param allowCodePageConversion false: texts are read by the code page that the file names.
     /// @param partialLoad true: what is not asked for need not be read.

@@ -2,8 +2,12 @@
 #pragma once
 
 #include "CKvString.h"
+#include "OdResBuf.h"
 #include "hostApi.h"
 
+class CKvApplicationFrame;
+class CKvDocumentManager;
+class CKvExpressionParserData;
 class CKvStandardsSettings;
 class OdDbDatabase;
 class OdDbHostAppServices;
@@ -19,8 +23,21 @@ public:
     /// @return its full path, empty when there is none.
     virtual CKvString
     findFile(const CKvString &name, int hint, OdDbDatabase *database, int flags) = 0;
+    /// Null in a host without windows.
+    virtual CKvApplicationFrame *applicationFrame() = 0;
+    /// Null in a host without documents.
+    virtual CKvDocumentManager *documentManager() = 0;
     /// Never null.
     virtual OdDbHostAppServices *hostAppServices() = 0;
+    /// Runs what the chain names, a command or a function with its arguments, and returns when that
+    /// has finished.
+    /// @param data fresh for each call.
+    /// @param request from the name (type 5005) to the end mark (type 5000).
+    /// @return what it gave; null for nothing.
+    virtual OdResBufPtr evaluateExpression(CKvExpressionParserData &data, OdResBufPtr request) = 0;
+    /// Queues a command for the command line once the host is idle, and returns.
+    /// @param request from the name (type 5005) to the end mark (type 5000).
+    virtual void postCommand(OdResBufPtr request) = 0;
     /// Never null.
     virtual CKvStandardsSettings *standardsSettings() = 0;
 };

@@ -9,6 +9,7 @@
 #include "OdDbIdMapping.h"
 #include "OdDbLinetypeTable.h"
 #include "OdDbLinetypeTableRecord.h"
+#include "groupValueType.h"
 #include "lineTypeLoading.h"
 #include "purge.h"
 #include "readLineTypeFile.h"
@@ -16,6 +17,40 @@
 #include "rxConstruction.h"
 
 #include <algorithm>
+
+namespace
+{
+
+/// A header variable by the type that its group code stands for.
+OdResBufPtr headerValue(const CKvTag &tag, const CKvDrawingFormat &format)
+{
+    OdResBufPtr value;
+    switch (groupValueType(tag.code)) {
+    case CKvGroupValueType::Real:
+        value = OdResBuf::newRb(OdResBuf::kRtDouble);
+        value->setDouble(tag.real());
+        break;
+    case CKvGroupValueType::Bool:
+    case CKvGroupValueType::Int16:
+        value = OdResBuf::newRb(OdResBuf::kRtInt16);
+        value->setInt64(tag.integer());
+        break;
+    case CKvGroupValueType::Int32:
+    case CKvGroupValueType::Int64:
+        value = OdResBuf::newRb(OdResBuf::kRtInt32);
+        value->setInt64(tag.integer());
+        break;
+    case CKvGroupValueType::Text:
+    case CKvGroupValueType::Handle:
+    case CKvGroupValueType::Bytes:
+        value = OdResBuf::newRb(OdResBuf::kRtString);
+        value->setString(OdString(format.codec.decode(tag.value)));
+        break;
+    }
+    return value;
+}
+
+} // namespace
 
 OdDbDatabase::OdDbDatabase(std::unique_ptr<CKvDrawingStore> store)
     : m_store(std::move(store))
@@ -118,6 +153,17 @@ int OdDbDatabase::getMEASUREMENT() const
 {
     const std::optional<CKvTag> value = m_store->header().find("$MEASUREMENT");
     return value ? int(value->integer()) : 0;
+}
+
+OdResBufPtr OdDbDatabase::getSysVar(const OdString &name) const
+{
+    const QString upper = QLatin1Char('$') + name.toQString().toUpper();
+    const std::optional<CKvTag> value = m_store->header().find(upper.toStdString());
+    if (!value) {
+        throw OdError(OdResult::kInvalidInput,
+                      "There is no variable " + name.toQString().toStdString() + '.');
+    }
+    return headerValue(*value, m_store->format());
 }
 
 void OdDbDatabase::loadLineTypeFile(const OdString &name, const OdString &path, int, int)

@@ -25,6 +25,7 @@ public:
     explicit CKvStandaloneAppServices(
         CKvFileImage::Holding holding = CKvFileImage::Holding::Mapped);
 
+    OdString applicationTitle() const override { return OdString("KvStandards"); }
     OdDbDatabasePtr readFile(const OdString &path,
                              bool allowCodePageConversion,
                              bool partialLoad,

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "CKvStandaloneServices.h"
 
+#include "CKvExpressionParserData.h"
 #include "OdDbDatabase.h"
 #include "executableFolder.h"
 
@@ -71,4 +72,11 @@ CKvString CKvStandaloneServices::findFile(const CKvString &name,
     const QString found = searched(name.toQString(), folders);
     // Where the program stands is asked only when it matters: the support files come last.
     return CKvString(found.isEmpty() ? searched(name.toQString(), supportFolders()) : found);
+}
+
+OdResBufPtr CKvStandaloneServices::evaluateExpression(CKvExpressionParserData &data,
+                                                      OdResBufPtr /*request*/)
+{
+    data.setFailure(CKvString("There is no command line."));
+    return {};
 }

@@ -19,7 +19,15 @@ public:
     /// The folder of the drawing comes first, then the search paths in their order, then the
     /// folders of the support files.
     CKvString findFile(const CKvString &name, int hint, OdDbDatabase *database, int flags) override;
+    /// Null: without windows there is none.
+    CKvApplicationFrame *applicationFrame() override { return nullptr; }
+    /// Null: without windows there are no documents.
+    CKvDocumentManager *documentManager() override { return nullptr; }
     CKvStandaloneAppServices *hostAppServices() override { return &m_appServices; }
+    /// Runs nothing: without a command line there is nothing that a request could name.
+    OdResBufPtr evaluateExpression(CKvExpressionParserData &data, OdResBufPtr request) override;
+    /// As evaluateExpression.
+    void postCommand(OdResBufPtr /*request*/) override { }
     CKvStandaloneSettings *standardsSettings() override { return &m_settings; }
 
     /// @param folders relative ones count from the working directory of the search.

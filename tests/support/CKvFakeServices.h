@@ -45,9 +45,18 @@ public:
     void forgetCalls() { m_calls.clear(); }
 
     CKvString findFile(const CKvString &name, int hint, OdDbDatabase *database, int flags) override;
+    CKvApplicationFrame *applicationFrame() override { return nullptr; }
+    CKvDocumentManager *documentManager() override { return nullptr; }
     OdDbHostAppServices *hostAppServices() override { return this; }
+    OdResBufPtr evaluateExpression(CKvExpressionParserData & /*data*/,
+                                   OdResBufPtr /*request*/) override
+    {
+        return {};
+    }
+    void postCommand(OdResBufPtr /*request*/) override { }
     CKvStandardsSettings *standardsSettings() override { return this; }
 
+    OdString applicationTitle() const override { return OdString("Test"); }
     OdDbDatabasePtr readFile(const OdString &path,
                              bool allowCodePageConversion,
                              bool partialLoad,
