@@ -26,19 +26,17 @@ int versionNumber(const std::optional<CKvTag> &variable)
 }
 
 /// ByLayer and ByBlock, model and paper space: many writers leave them out when they count.
-std::size_t reservedRecords(const CKvTable &table)
+bool isReservedRecord(CKvTableKind kind, const CKvObjectSlot &record)
 {
-    const auto &records = table.records();
-    return std::size_t(
-        std::count_if(records.begin(), records.end(), [&](const CKvObjectSlot *record) {
-            const QString name = foldedName(recordName(*record));
-            if (table.kind() == CKvTableKind::Block) {
-                return name.startsWith(QLatin1String("*model_space"))
-                    || name.startsWith(QLatin1String("*paper_space"));
-            }
-            return table.kind() == CKvTableKind::Linetype
-                && (name == QLatin1String("bylayer") || name == QLatin1String("byblock"));
-        }));
+    if (kind != CKvTableKind::Block && kind != CKvTableKind::Linetype) {
+        return false;
+    }
+    const QString name = foldedName(recordName(record));
+    if (kind == CKvTableKind::Block) {
+        return name.startsWith(QLatin1String("*model_space"))
+            || name.startsWith(QLatin1String("*paper_space"));
+    }
+    return name == QLatin1String("bylayer") || name == QLatin1String("byblock");
 }
 
 } // namespace
@@ -171,12 +169,13 @@ void CKvDrawingLoader::endTable(CKvSectionReader &reader, std::size_t offset)
     m_table->setEndInFile(offset);
     const std::optional<CKvTag> count = findTag(m_table->head(), 70);
     const std::size_t records = m_table->records().size();
+    const std::size_t reserved = m_reservedRecords[std::size_t(m_table->kind())];
     const std::size_t declared = count ? std::size_t(count->integer(-1)) : records;
     m_table->setUncountedRecords(std::nullopt);
     if (count && declared == records) {
         m_table->setUncountedRecords(0);
-    } else if (count && declared + reservedRecords(*m_table) == records) {
-        m_table->setUncountedRecords(reservedRecords(*m_table));
+    } else if (count && declared + reserved == records) {
+        m_table->setUncountedRecords(reserved);
     } else if (count) {
         const std::string_view name = kTableNames[std::size_t(m_table->kind())];
         reader.warn(m_table->head().begin,
@@ -206,6 +205,8 @@ void CKvDrawingLoader::readTables(CKvSectionReader &reader)
             slot.owner = &m_table->head();
             m_store->registerHandle(slot);
             m_table->add(slot);
+            m_reservedRecords[std::size_t(m_table->kind())] +=
+                isReservedRecord(m_table->kind(), slot) ? 1 : 0;
         }
     }
     endTable(reader, reader.contentEnd());

@@ -4,6 +4,7 @@
 #include "CKvDrawingStore.h"
 #include "CKvFileImage.h"
 
+#include <array>
 #include <memory>
 
 class CKvSectionReader;
@@ -32,5 +33,7 @@ private:
     CKvFileImagePtr m_image;
     std::unique_ptr<CKvDrawingStore> m_store;
     CKvTable *m_table = nullptr;
+    /// Of each table, counted as its records come: a table may stand in the file many times.
+    std::array<std::size_t, kTableCount> m_reservedRecords = {};
     bool m_hasSeenTables = false;
 };

@@ -13,12 +13,15 @@
 namespace
 {
 
+/// The records that the saved file has. The record of a block that the file's table lacks is made
+/// up for the walk, and not written as long as nobody changes it.
 std::size_t lastingRecords(const CKvTable &table)
 {
     const auto &records = table.records();
     return std::size_t(
         std::count_if(records.begin(), records.end(), [](const CKvObjectSlot *record) {
-            return !record->isErased;
+            const bool isMadeUp = record->begin == record->end && !record->isTouched;
+            return !record->isErased && !isMadeUp;
         }));
 }
 

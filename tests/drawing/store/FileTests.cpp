@@ -6,6 +6,7 @@
 #include "OdDbLayerTable.h"
 #include "OdDbLayerTableRecord.h"
 #include "OdDbXrecord.h"
+#include "drawingText.h"
 
 #include <QDir>
 #include <QFile>
@@ -152,6 +153,22 @@ TEST(Saving, TheCountOfATableStaysTrueWhenItWasAndWrongWhenItWasNot)
         EXPECT_EQ(CKvDrawingFile::warnings(*CKvDrawingFile::fromBytes(saved)).isEmpty(),
                   bytes == right);
     }
+}
+
+TEST(Saving, ABlockThatItsTableLacksIsWalkedAndNotCounted)
+{
+    const QByteArray bytes =
+        "0\nSECTION\n2\nHEADER\n9\n$"
+        "ACADVER\n1\nAC1015\n0\nENDSEC\n0\nSECTION\n2\nTABLES\n0\nTABLE\n"
+        "2\nBLOCK_RECORD\n70\n1\n0\nBLOCK_RECORD\n2\nDOOR\n0\nENDTAB\n0\nENDSEC\n0\nSECTION\n2\n"
+        "BLOCKS\n0\nBLOCK\n2\nDOOR\n0\nENDBLK\n0\nBLOCK\n2\nWINDOW\n0\nENDBLK\n0\nENDSEC\n0\nEOF\n";
+    const OdDbDatabasePtr drawing = CKvDrawingFile::fromBytes(bytes);
+
+    drawing->getOdDbObjectId(OdDbHandle(0xABC));
+
+    EXPECT_EQ(namesText(drawing->getBlockTableId()), "DOOR\nWINDOW\n");
+    EXPECT_FALSE(CKvDrawingFile::isChanged(*drawing));
+    EXPECT_EQ(CKvDrawingFile::toBytes(*drawing).toStdString(), bytes.toStdString());
 }
 
 TEST(Saving, TheFileIsReplacedWhole)
