@@ -7,8 +7,8 @@ option(KV_WERROR "Treat warnings as errors" ON)
 # The folders from the ground up. A target links only what stands before it, and nothing of the module
 # links the stand-in host.
 set(KV_MODULE_LAYERS
-    host_drawing host_kernel host_widgets contract plugins_frame plugins_layer plugins_linestyle
-    plugins_textstyle plugins_valuetext plugins_dimstyle manager_gathering dialogs manager commands
+    host_drawing host_kernel host_widgets contract plugins_frame plugins_valuetext plugins_layer
+    plugins_linestyle plugins_textstyle plugins_dimstyle manager_gathering dialogs manager commands
     KvStandards)
 set(KV_STANDALONE_LAYERS
     standalone_dxf standalone_drawing standalone_kernel standalone_widgets standalone_batch

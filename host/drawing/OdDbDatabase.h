@@ -36,6 +36,9 @@ public:
     OdDbObjectId getBlockTableId() const;
     /// Null in a drawing that has no dictionaries (R12 and older).
     OdDbObjectId getNamedObjectsDictionaryId() const;
+    /// The names of the plot styles, made when the drawing has none. Null in a drawing that has no
+    /// dictionaries.
+    OdDbObjectId getPlotStyleNameDictionaryId() const;
 
     /// The object of that handle, null when there is none.
     OdDbObjectId getOdDbObjectId(OdDbHandle handle) const;

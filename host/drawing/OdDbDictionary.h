@@ -21,6 +21,8 @@ public:
     OdDbObjectId getAt(const OdString &key) const;
     /// The object itself, open; null when the key is missing or leads to nothing.
     OdDbObjectPtr getAt(const OdString &key, OdDb::OpenMode mode) const;
+    /// The key of an object; empty when it is not in this dictionary.
+    OdString nameAt(OdDbObjectId id) const;
     bool has(const OdString &key) const { return !getAt(key).isNull(); }
     /// Adds an entry, or replaces one; the object that was there is erased. The object becomes part
     /// of this dictionary's drawing.

@@ -6,6 +6,7 @@
 #include "CKvObjectAccess.h"
 #include "CKvObjectImporter.h"
 #include "OdDbDatabaseReactor.h"
+#include "OdDbDictionary.h"
 #include "OdDbIdMapping.h"
 #include "OdDbLinetypeTable.h"
 #include "OdDbLinetypeTableRecord.h"
@@ -108,6 +109,17 @@ OdDbObjectId OdDbDatabase::getNamedObjectsDictionaryId() const
         return OdDbObjectId();
     }
     return m_store->requireRootDictionary().id();
+}
+
+OdDbObjectId OdDbDatabase::getPlotStyleNameDictionaryId() const
+{
+    const OdString key("ACAD_PLOTSTYLENAME");
+    const OdDbDictionaryPtr root(getNamedObjectsDictionaryId().openObject(OdDb::kForRead));
+    if (!root || root->has(key)) {
+        return root ? root->getAt(key) : OdDbObjectId();
+    }
+    root->upgradeOpen();
+    return root->setAt(key, OdDbDictionary::createObject());
 }
 
 OdDbObjectId OdDbDatabase::getOdDbObjectId(OdDbHandle handle) const

@@ -184,6 +184,17 @@ OdDbObjectPtr OdDbDictionary::getAt(const OdString &key, OdDb::OpenMode mode) co
     return getAt(key).openObject(mode);
 }
 
+OdString OdDbDictionary::nameAt(OdDbObjectId id) const
+{
+    const CKvObjectSlot &slot = *CKvObjectAccess::slotOf(*this);
+    for (const CKvDictionaryEntry &entry : dictionaryEntries(slot)) {
+        if (!id.isNull() && entryObject(slot, entry) == id.slot()) {
+            return OdString(entry.key);
+        }
+    }
+    return OdString();
+}
+
 OdDbObjectId OdDbDictionary::setAt(const OdString &key, const OdDbObjectPtr &object)
 {
     CKvObjectSlot &slot = CKvObjectAccess::beginChange(*this);

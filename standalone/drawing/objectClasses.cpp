@@ -11,6 +11,9 @@
 #include "OdDbLayerTableRecord.h"
 #include "OdDbLinetypeTable.h"
 #include "OdDbLinetypeTableRecord.h"
+#include "OdDbMaterial.h"
+#include "OdDbMlineStyle.h"
+#include "OdDbPlaceHolder.h"
 #include "OdDbTextStyleTable.h"
 #include "OdDbTextStyleTableRecord.h"
 #include "OdDbXrecord.h"
@@ -69,6 +72,25 @@ OdRxClass *recordClass(std::string_view type)
     return nullptr;
 }
 
+OdRxClass *namedObjectClass(std::string_view type)
+{
+    struct Row {
+        std::string_view type;
+        OdRxClass *(*desc)();
+    };
+    static constexpr Row kRows[] = {
+        { "DICTIONARY", &OdDbDictionary::desc }, { "ACDBDICTIONARYWDFLT", &OdDbDictionary::desc },
+        { "XRECORD", &OdDbXrecord::desc },       { "MLINESTYLE", &OdDbMlineStyle::desc },
+        { "MATERIAL", &OdDbMaterial::desc },     { "ACDBPLACEHOLDER", &OdDbPlaceHolder::desc },
+    };
+    for (const Row &row : kRows) {
+        if (row.type == type) {
+            return row.desc();
+        }
+    }
+    return nullptr;
+}
+
 } // namespace
 
 OdRxClass *objectClass(std::string_view type, CKvObjectSlot::Role role)
@@ -77,9 +99,7 @@ OdRxClass *objectClass(std::string_view type, CKvObjectSlot::Role role)
     if (role == CKvObjectSlot::Role::Record || role == CKvObjectSlot::Role::StandIn) {
         own = recordClass(type);
     } else if (role == CKvObjectSlot::Role::Object) {
-        own = type == "DICTIONARY" || type == "ACDBDICTIONARYWDFLT" ? OdDbDictionary::desc()
-            : type == "XRECORD"                                     ? OdDbXrecord::desc()
-                                                                    : nullptr;
+        own = namedObjectClass(type);
     }
     return own ? own : genericClass(type, role);
 }

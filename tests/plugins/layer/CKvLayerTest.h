@@ -1,69 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "CKvContractClasses.h"
-#include "CKvDrawingBuilder.h"
-#include "CKvFakeServices.h"
 #include "CKvLayerPluginImpl.h"
-#include "auditText.h"
+#include "CKvPluginTest.h"
 #include "drawingText.h"
 
-#include <gtest/gtest.h>
-
 /// A drawing, the standards file "/office.dxf", and the layer plug-in.
-class CKvLayerTest : public testing::Test
+class CKvLayerTest : public CKvPluginTest<CKvLayerPluginImpl>
 {
 protected:
-    CKvLayerTest() { CKvLayerPluginImpl::rxInit(); }
-    ~CKvLayerTest() override { CKvLayerPluginImpl::rxUninit(); }
-
-    /// Opens drawing and standards as told so far and audits.
-    /// @return the whole report.
-    std::string report(const QStringList &paths = { QStringLiteral("/office.dxf") })
-    {
-        m_services.setDrawing("/office.dxf", m_office);
-        m_database = m_drawing.open();
-        m_violations = audit(m_plugin, m_database, paths);
-        m_services.forgetCalls();
-        return violationsText(m_violations);
-    }
-    /// Audits the drawing as it is now, after repairs.
-    std::string reportAgain() { return violationsText(auditAgain()); }
-    /// The violation of that object in the last report.
-    CKvStdsViolation violationOf(const char *name) const
-    {
-        for (const CKvStdsViolation &violation : m_violations) {
-            if (violation.error->objectName() == CKvString(QString::fromUtf8(name))) {
-                return violation;
-            }
-        }
-        ADD_FAILURE() << "no violation of " << name;
-        return CKvStdsViolation();
-    }
-    /// The candidate of that name that a violation was offered.
-    static CKvStdsFixPtr fixOf(const CKvStdsViolation &violation, const char *name)
-    {
-        for (const CKvStdsFixPtr &fix : violation.fixes) {
-            if (fix->name() == CKvString(QString::fromUtf8(name))) {
-                return fix;
-            }
-        }
-        ADD_FAILURE() << "no candidate " << name;
-        return CKvStdsFix::createObject();
-    }
-    std::string preview(const char *name, const char *fixName)
-    {
-        const CKvStdsViolation violation = violationOf(name);
-        return previewText(m_plugin, violation.error, fixOf(violation, fixName));
-    }
-    /// Repairs the violation of the last report with the candidate of that name.
-    void repair(const char *name, const char *fixName)
-    {
-        const CKvStdsViolation violation = violationOf(name);
-        CKvString message("left over");
-        m_plugin.applyFix(violation.error, fixOf(violation, fixName), message);
-        EXPECT_EQ(message, CKvString());
-    }
     OdDbObjectId layerId(const char *name) const
     {
         return recordId(m_database->getLayerTableId(), name);
@@ -72,19 +17,4 @@ protected:
     std::string lineStyles() const { return namesText(m_database->getLinetypeTableId()); }
     std::string entityLayers() const { return entityLayersText(*m_database); }
     std::string currentLayer() const { return nameOf(m_database->getCLAYER()); }
-
-    CKvContractClasses m_classes;
-    CKvFakeServices m_services;
-    CKvDrawingBuilder m_drawing;
-    CKvDrawingBuilder m_office;
-    OdDbDatabasePtr m_database;
-    CKvLayerPluginImpl m_plugin;
-    std::vector<CKvStdsViolation> m_violations;
-
-private:
-    std::vector<CKvStdsViolation> auditAgain()
-    {
-        m_violations = audit(m_plugin, m_database, { QStringLiteral("/office.dxf") });
-        return m_violations;
-    }
 };
