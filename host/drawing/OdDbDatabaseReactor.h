@@ -3,6 +3,8 @@
 
 #include "OdRxObject.h"
 
+#include <vector>
+
 class OdDbDatabase;
 class OdDbObject;
 
@@ -11,6 +13,10 @@ class OdDbObject;
 class KV_HOST_API OdDbDatabaseReactor : public OdRxObject
 {
 public:
+    OdDbDatabaseReactor();
+    /// Takes the reactor off the databases that still have it, so that a module can go before them.
+    ~OdDbDatabaseReactor() override;
+
     static OdRxClass *desc();
     OdRxClass *isA() const override;
 
@@ -24,4 +30,9 @@ public:
     /// @param isErased false when the object is brought back.
     virtual void
     objectErased(const OdDbDatabase *database, const OdDbObject *object, bool isErased);
+
+private:
+    friend class OdDbDatabase;
+
+    std::vector<OdDbDatabase *> m_databases;
 };

@@ -59,7 +59,12 @@ OdDbDatabase::OdDbDatabase(std::unique_ptr<CKvDrawingStore> store)
     m_store->database = this;
 }
 
-OdDbDatabase::~OdDbDatabase() = default;
+OdDbDatabase::~OdDbDatabase()
+{
+    while (!m_store->reactors.empty()) {
+        removeReactor(m_store->reactors.back());
+    }
+}
 
 OdRxClass *OdDbDatabase::desc()
 {
@@ -230,11 +235,18 @@ void OdDbDatabase::addReactor(OdDbDatabaseReactor *reactor)
     std::vector<OdDbDatabaseReactor *> &reactors = m_store->reactors;
     if (reactor && std::find(reactors.begin(), reactors.end(), reactor) == reactors.end()) {
         reactors.push_back(reactor);
+        reactor->m_databases.push_back(this);
     }
 }
 
 void OdDbDatabase::removeReactor(OdDbDatabaseReactor *reactor)
 {
     std::vector<OdDbDatabaseReactor *> &reactors = m_store->reactors;
-    reactors.erase(std::remove(reactors.begin(), reactors.end(), reactor), reactors.end());
+    const auto found = std::find(reactors.begin(), reactors.end(), reactor);
+    if (found == reactors.end()) {
+        return;
+    }
+    reactors.erase(found);
+    std::vector<OdDbDatabase *> &databases = reactor->m_databases;
+    databases.erase(std::find(databases.begin(), databases.end(), this));
 }

@@ -1,7 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "OdDbDatabaseReactor.h"
 
+#include "OdDbDatabase.h"
 #include "OdRxClass.h"
+
+OdDbDatabaseReactor::OdDbDatabaseReactor() = default;
+
+OdDbDatabaseReactor::~OdDbDatabaseReactor()
+{
+    while (!m_databases.empty()) {
+        m_databases.back()->removeReactor(this);
+    }
+}
 
 OdRxClass *OdDbDatabaseReactor::desc()
 {

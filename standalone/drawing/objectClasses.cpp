@@ -16,6 +16,7 @@
 #include "OdDbPlaceHolder.h"
 #include "OdDbTextStyleTable.h"
 #include "OdDbTextStyleTableRecord.h"
+#include "OdDbViewportTableRecord.h"
 #include "OdDbXrecord.h"
 #include "rxConstruction.h"
 
@@ -63,6 +64,7 @@ OdRxClass *recordClass(std::string_view type)
         { "STYLE", &OdDbTextStyleTableRecord::desc },
         { "DIMSTYLE", &OdDbDimStyleTableRecord::desc },
         { "BLOCK_RECORD", &OdDbBlockTableRecord::desc },
+        { "VPORT", &OdDbViewportTableRecord::desc },
     };
     for (const Row &row : kRows) {
         if (row.type == type) {
