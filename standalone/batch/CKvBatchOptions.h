@@ -41,6 +41,8 @@ struct CKvRunOptions {
     /// File with one drawing a line, "-" for standard input; empty for none.
     QString filesFrom;
     CKvReportFormat format = CKvReportFormat::Text;
+    /// File that the map was read from; empty for none.
+    QString mapFile;
     /// File of the report; empty for standard output.
     QString reportFile;
     /// Folder for repaired drawings; empty for none.

@@ -39,7 +39,9 @@ CKvDrawingCheck::~CKvDrawingCheck()
 
 void CKvDrawingCheck::run()
 {
-    m_standards = chooseStandards(m_session, *m_drawing);
+    CKvStandardsChoice choice = chooseStandards(m_session, *m_drawing);
+    m_standards = std::move(choice.files);
+    m_warnings = choice.warnings;
     const CKvGatheringRequest whole = request(m_drawing, m_standards);
     if (whole.standardsPaths.empty()) {
         m_status = CKvDrawingStatus::NoStandards;
@@ -75,6 +77,7 @@ CKvDrawingReport checkDrawing(CKvBatchSession &session, const QString &path)
         CKvDrawingCheck check(session, drawing);
         check.run();
         report.status = check.status();
+        report.warnings << check.warnings();
         report.standards = check.standards();
         report.violations = check.describe();
     });

@@ -21,6 +21,8 @@ public:
 
     CKvDrawingStatus status() const { return m_status; }
     const std::vector<CKvStandardsFileReport> &standards() const { return m_standards; }
+    /// Sentences about standards that the user asked for in vain.
+    const QStringList &warnings() const { return m_warnings; }
     /// In the order of the check.
     const std::vector<CKvStdsViolation> &violations() const { return m_pass.violations(); }
     const CKvCategory &categoryOf(const CKvStdsViolation &violation) const;
@@ -32,6 +34,7 @@ private:
     OdDbDatabasePtr m_drawing;
     CKvDrawingStatus m_status = CKvDrawingStatus::NoStandards;
     std::vector<CKvStandardsFileReport> m_standards;
+    QStringList m_warnings;
     CKvGatheringPass m_pass;
 };
 

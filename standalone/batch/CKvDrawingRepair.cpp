@@ -41,6 +41,7 @@ void CKvDrawingRepair::attempt(CKvDrawingReport &report)
     report.warnings = CKvDrawingFile::warnings(*m_drawing);
     CKvDrawingCheck check(m_session, m_drawing);
     check.run();
+    report.warnings << check.warnings();
     report.status = check.status();
     report.standards = check.standards();
     if (m_options.isDryRun) {

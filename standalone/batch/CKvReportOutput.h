@@ -30,12 +30,19 @@ public:
     void flush();
     /// @return false when something could not be written.
     bool close();
-    QString errorText() const;
+    /// Why opening, writing or closing failed, as a sentence.
+    QString errorText() const { return m_failure; }
 
 private:
+    /// Keeps the first failure: what comes later follows from it.
+    void noteFailure(const QString &text);
+    /// @param systemError errno right after the failure, 0 when nothing set it.
+    void noteWriteFailure(int systemError);
+
     QString m_path;
     std::unique_ptr<QFileDevice> m_file;
     /// The same, when it is replaced at the end.
     QSaveFile *m_saveFile = nullptr;
-    bool m_hasFailed = false;
+    /// Empty while everything could be written.
+    QString m_failure;
 };

@@ -13,7 +13,7 @@ struct CKvRunSummary {
     }
 
     void add(const CKvDrawingReport &report);
-    /// Something beside the drawings could not be done: a list of drawings that can't be read.
+    /// Something beside the drawings could not be done: a list or a folder that can't be read.
     void addFailure() { m_isIncomplete = true; }
     /// Incomplete when there was no drawing at all.
     CKvExitStatus exitStatus() const;

@@ -5,6 +5,8 @@
 #include "workerMessages.h"
 #include "workerProcess.h"
 
+#include <algorithm>
+#include <limits>
 #include <utility>
 
 CKvWorker::CKvWorker(const CKvJobSettings &settings, double timeoutSeconds)
@@ -49,7 +51,8 @@ void CKvWorker::start(const CKvDrawingJob &job, Done done)
     }
     m_process.write(jobToLine(job));
     if (m_timeoutSeconds > 0) {
-        m_timer.start(int(m_timeoutSeconds * 1000));
+        constexpr double kLongestTimer = std::numeric_limits<int>::max();
+        m_timer.start(int(std::min(m_timeoutSeconds * 1000, kLongestTimer)));
     }
 }
 

@@ -3,6 +3,9 @@
 
 #include "CKvUsageError.h"
 #include "absolutePath.h"
+#include "isDrawing.h"
+#include "storedStandardsFiles.h"
+#include "writeRepairedDrawing.h"
 
 #include <QFileInfo>
 
@@ -37,40 +40,104 @@ QString outputFor(const CKvDrawingInput &drawing, const CKvRunOptions &options)
         : options.outputFolder + QLatin1Char('/') + drawing.relativePath;
 }
 
-std::set<QString> identitiesOfInputs(const std::vector<CKvDrawingInput> &drawings,
-                                     const CKvRunOptions &options)
+/// What the run reads beside the drawings.
+std::set<QString> identitiesOfOtherInputs(const CKvRunOptions &options)
+{
+    std::set<QString> inputs;
+    const QStringList paths = QStringList(options.check.standards)
+        << options.check.preferred << options.mapFile << options.filesFrom;
+    for (const QString &path : paths) {
+        if (!path.isEmpty()) {
+            inputs.insert(identity(path));
+        }
+    }
+    return inputs;
+}
+
+std::set<QString> identitiesOfDrawings(const std::vector<CKvDrawingInput> &drawings)
 {
     std::set<QString> inputs;
     for (const CKvDrawingInput &drawing : drawings) {
         inputs.insert(identity(drawing.path));
     }
-    for (const QString &standards : options.check.standards) {
-        inputs.insert(identity(standards));
-    }
     return inputs;
 }
 
-void requireOwnOutputs(const std::vector<CKvDrawingJob> &jobs,
-                       const std::set<QString> &inputs,
-                       bool isInPlace)
+void requireHarmlessReport(const QString &report, const std::set<QString> &inputs)
+{
+    if (report.isEmpty()) {
+        return;
+    }
+    if (inputs.count(identity(report)) > 0) {
+        throw CKvUsageError(QStringLiteral("The report would replace %1, which is one of the files "
+                                           "that are read.")
+                                .arg(report));
+    }
+    // It may hold the standards of any other drawing.
+    if (isDrawing(report)) {
+        throw CKvUsageError(
+            QStringLiteral("The report would replace %1, which is a drawing.").arg(report));
+    }
+}
+
+void requireDifferentOutputs(const std::vector<CKvDrawingJob> &jobs)
 {
     std::map<QString, QString> drawingOfOutput;
     for (const CKvDrawingJob &job : jobs) {
         if (job.output.isEmpty()) {
             continue;
         }
-        const QString output = identity(job.output);
-        const auto [known, isNew] = drawingOfOutput.emplace(output, job.path);
+        const auto [known, isNew] = drawingOfOutput.emplace(identity(job.output), job.path);
         if (!isNew) {
             throw CKvUsageError(QStringLiteral("%1 and %2 would both be written to %3.")
                                     .arg(known->second, job.path, job.output));
         }
-        if (!isInPlace && inputs.count(output) > 0) {
+    }
+}
+
+void requireHarmlessOutputs(const std::vector<CKvDrawingJob> &jobs, const std::set<QString> &inputs)
+{
+    for (const CKvDrawingJob &job : jobs) {
+        if (!job.output.isEmpty() && inputs.count(identity(job.output)) > 0) {
             throw CKvUsageError(
                 QStringLiteral(
                     "The output %1 is one of the files that are read. To replace a drawing, "
                     "give --in-place.")
                     .arg(job.output));
+        }
+    }
+}
+
+void requireHarmlessCopies(const std::vector<CKvDrawingJob> &jobs, const std::set<QString> &inputs)
+{
+    for (const CKvDrawingJob &job : jobs) {
+        const QString copy = backupPath(job.path);
+        if (inputs.count(identity(copy)) > 0) {
+            throw CKvUsageError(QStringLiteral("The copy of %1 would replace %2, which is one of "
+                                               "the files that are read.")
+                                    .arg(job.path, copy));
+        }
+    }
+}
+
+/// Only a file that is there can be lost, so the lists of the drawings are read when one is.
+void requireNoStoredStandards(const std::vector<CKvDrawingJob> &jobs,
+                              const QStringList &searchPaths)
+{
+    std::map<QString, QString> existingOutputs;
+    for (const CKvDrawingJob &job : jobs) {
+        if (!job.output.isEmpty() && QFileInfo::exists(job.output)) {
+            existingOutputs.emplace(identity(job.output), job.output);
+        }
+    }
+    for (auto job = jobs.begin(); job != jobs.end() && !existingOutputs.empty(); ++job) {
+        for (const QString &file : storedStandardsFiles(job->path, searchPaths)) {
+            const auto output = existingOutputs.find(identity(file));
+            if (output != existingOutputs.end()) {
+                throw CKvUsageError(
+                    QStringLiteral("The output %1 would replace a standards file of %2.")
+                        .arg(output->second, job->path));
+            }
         }
     }
 }
@@ -85,12 +152,15 @@ std::vector<CKvDrawingJob> chooseOutputs(const std::vector<CKvDrawingInput> &dra
     for (const CKvDrawingInput &drawing : drawings) {
         jobs.push_back({ drawing.path, outputFor(drawing, options) });
     }
-    const std::set<QString> inputs = identitiesOfInputs(drawings, options);
-    if (!options.reportFile.isEmpty() && inputs.count(identity(options.reportFile)) > 0) {
-        throw CKvUsageError(QStringLiteral("The report would replace %1, which is one of the files "
-                                           "that are read.")
-                                .arg(options.reportFile));
+    std::set<QString> inputs = identitiesOfDrawings(drawings);
+    inputs.merge(identitiesOfOtherInputs(options));
+    requireHarmlessReport(options.reportFile, inputs);
+    requireDifferentOutputs(jobs);
+    if (!options.isInPlace) {
+        requireHarmlessOutputs(jobs, inputs);
+        requireNoStoredStandards(jobs, options.check.searchPaths);
+    } else if (options.fix.keepsBackup && !options.fix.isDryRun) {
+        requireHarmlessCopies(jobs, inputs);
     }
-    requireOwnOutputs(jobs, inputs, options.isInPlace);
     return jobs;
 }

@@ -56,20 +56,22 @@ Files givenStandards(const CKvCheckOptions &options)
     return found;
 }
 
-/// The preferred file in the spelling of the drawing's list: the list may hold it as it was given
-/// or with its full path.
+/// The preferred file as the drawing lists it: only a file that the list itself spells so can be
+/// the preferred one. A file that isn't listed stays itself.
 QString preferredSpelling(const QString &preferred, const OdDbDatabase &drawing)
 {
-    if (preferred.isEmpty()) {
-        return preferred;
-    }
+    QString spelling = preferred.isEmpty() ? preferred : absolutePath(preferred);
     for (CKvString listed : readStandardsList(drawing, ForeignListEntry::PassOver)) {
         listed.replace(QLatin1Char('\\'), QLatin1Char('/'));
+        const QString path = listed.toQString();
         if (listed.equalNoCase(CKvString(preferred))) {
             return preferred;
         }
+        if (!preferred.isEmpty() && QFileInfo::exists(path) && isSameFile(path, preferred)) {
+            spelling = path;
+        }
     }
-    return absolutePath(preferred);
+    return spelling;
 }
 
 Files storedStandards(CKvBatchSession &session, OdDbDatabase &drawing)
@@ -87,6 +89,28 @@ Files storedStandards(CKvBatchSession &session, OdDbDatabase &drawing)
         files.push_back(missingFile(path.toQString()));
     }
     return files;
+}
+
+/// Empty when the preferred file comes first or is reported as missing.
+QString preferredWarning(const QString &preferred, const Files &files)
+{
+    const auto isPreferred = [&preferred](const CKvStandardsFileReport &file) {
+        QString path = file.path;
+        path.replace(QLatin1Char('\\'), QLatin1Char('/'));
+        return isSameFile(path, preferred) || path.compare(preferred, Qt::CaseInsensitive) == 0;
+    };
+    const auto found = std::find_if(files.begin(), files.end(), isPreferred);
+    if (found == files.end()) {
+        return QFileInfo::exists(preferred)
+            ? QStringLiteral("The preferred file %1 is none of the standards files.").arg(preferred)
+            : QStringLiteral("The preferred file %1 can't be found.").arg(preferred);
+    }
+    const bool hasEffect = found == files.begin();
+    return hasEffect || found->status == CKvStandardsFileStatus::NotFound
+        ? QString()
+        : QStringLiteral("The preferred file %1 does not come first: the drawing lists it under "
+                         "another path.")
+              .arg(preferred);
 }
 
 bool hasRecords(const OdDbDatabase &standards, const CKvCategory &category)
@@ -114,10 +138,18 @@ bool isEmpty(const CKvBatchSession &session, const OdDbDatabase &standards)
 
 } // namespace
 
-std::vector<CKvStandardsFileReport> chooseStandards(CKvBatchSession &session, OdDbDatabase &drawing)
+CKvStandardsChoice chooseStandards(CKvBatchSession &session, OdDbDatabase &drawing)
 {
-    return session.options().standards.isEmpty() ? storedStandards(session, drawing)
-                                                 : givenStandards(session.options());
+    CKvStandardsChoice choice;
+    choice.files = session.options().standards.isEmpty() ? storedStandards(session, drawing)
+                                                         : givenStandards(session.options());
+    const QString preferred = session.options().preferred;
+    const QString warning =
+        preferred.isEmpty() ? QString() : preferredWarning(preferred, choice.files);
+    if (!warning.isEmpty()) {
+        choice.warnings << warning;
+    }
+    return choice;
 }
 
 void noteReadOutcomes(CKvBatchSession &session, std::vector<CKvStandardsFileReport> &standards)

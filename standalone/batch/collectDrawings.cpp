@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "collectDrawings.h"
 
+#include "CKvFolderWalk.h"
+
 #include <QDir>
-#include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
 
@@ -11,32 +12,13 @@
 namespace
 {
 
-void addFolder(const QString &folder, std::vector<CKvDrawingInput> &drawings)
-{
-    // Absolute, since a path that leads up first can't be made relative to itself otherwise.
-    const QDir root(QDir(folder).absolutePath());
-    QStringList found;
-    QDirIterator walk(root.path(),
-                      { QStringLiteral("*.dxf"), QStringLiteral("*.dws") },
-                      QDir::Files,
-                      QDirIterator::Subdirectories);
-    while (walk.hasNext()) {
-        found << root.relativeFilePath(walk.next());
-    }
-    found.sort();
-    const QString prefix = folder.endsWith(QLatin1Char('/')) ? folder : folder + QLatin1Char('/');
-    for (const QString &relativePath : found) {
-        drawings.push_back({ prefix + relativePath, relativePath });
-    }
-}
-
-void addInput(const QString &input, std::vector<CKvDrawingInput> &drawings)
+void addInput(const QString &input, const QString &outputFolder, CKvDrawingList &list)
 {
     const QString path = QDir::fromNativeSeparators(input);
     if (QFileInfo(path).isDir()) {
-        addFolder(path, drawings);
+        CKvFolderWalk(path, outputFolder).addTo(list);
     } else {
-        drawings.push_back({ path, QFileInfo(path).fileName() });
+        list.drawings.push_back({ path, QFileInfo(path).fileName() });
     }
 }
 
@@ -68,16 +50,17 @@ QStringList listedInputs(const QString &filesFrom, QString &error)
 
 } // namespace
 
-CKvDrawingList collectDrawings(const QStringList &inputs, const QString &filesFrom)
+CKvDrawingList
+collectDrawings(const QStringList &inputs, const QString &filesFrom, const QString &outputFolder)
 {
     CKvDrawingList list;
     for (const QString &input : inputs) {
-        addInput(input, list.drawings);
+        addInput(input, outputFolder, list);
     }
     if (!filesFrom.isEmpty()) {
         QString error;
         for (const QString &input : listedInputs(filesFrom, error)) {
-            addInput(input, list.drawings);
+            addInput(input, outputFolder, list);
         }
         if (!error.isEmpty()) {
             list.errors << error;

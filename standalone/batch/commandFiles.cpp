@@ -139,7 +139,8 @@ CKvExitStatus commandFiles(const CKvDrawingOptions &options)
     if (!isDone) {
         return CKvExitStatus::Incomplete;
     }
-    printOutput(options.format == CKvReportFormat::Json ? listJson(options.drawing, files)
-                                                        : listText(files));
-    return CKvExitStatus::Clean;
+    const bool isPrinted =
+        printOutput(options.format == CKvReportFormat::Json ? listJson(options.drawing, files)
+                                                            : listText(files));
+    return isPrinted ? CKvExitStatus::Clean : CKvExitStatus::Incomplete;
 }

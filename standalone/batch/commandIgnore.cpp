@@ -42,10 +42,10 @@ CKvExitStatus commandIgnore(const CKvDrawingOptions &options)
     const QString state = options.isIgnored
         ? QStringLiteral("is ignored by %1").arg(CKvUtilsBase::getUserName().toQString())
         : QStringLiteral("is no longer ignored");
-    printOutput(QStringLiteral("%1: %2 \"%3\" %4\n")
-                    .arg(printable(options.drawing),
-                         QLatin1String(category.noun),
-                         printable(options.name),
-                         state));
-    return CKvExitStatus::Clean;
+    const bool isPrinted = printOutput(QStringLiteral("%1: %2 \"%3\" %4\n")
+                                           .arg(printable(options.drawing),
+                                                QLatin1String(category.noun),
+                                                printable(options.name),
+                                                state));
+    return isPrinted ? CKvExitStatus::Clean : CKvExitStatus::Incomplete;
 }

@@ -87,8 +87,8 @@ CKvExitStatus commandShow(const CKvDrawingOptions &options)
     if (!isDone) {
         return CKvExitStatus::Incomplete;
     }
-    printOutput(options.format == CKvReportFormat::Json
-                    ? layersJson(options.drawing, layers)
-                    : layersText(layers, wantsColor(options.color)));
-    return CKvExitStatus::Clean;
+    const bool isPrinted = printOutput(options.format == CKvReportFormat::Json
+                                           ? layersJson(options.drawing, layers)
+                                           : layersText(layers, wantsColor(options.color)));
+    return isPrinted ? CKvExitStatus::Clean : CKvExitStatus::Incomplete;
 }

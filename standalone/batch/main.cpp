@@ -62,10 +62,9 @@ CKvExitStatus run(const QStringList &arguments)
     if (!parsed.options) {
         if (parsed.status == CKvExitStatus::WrongUsage) {
             printError(parsed.text.trimmed());
-        } else {
-            printOutput(parsed.text);
+            return parsed.status;
         }
-        return parsed.status;
+        return printOutput(parsed.text) ? parsed.status : CKvExitStatus::Incomplete;
     }
     // What only the files show to be wrong usage is found before anything was done.
     try {

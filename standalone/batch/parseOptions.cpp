@@ -3,13 +3,11 @@
 
 #include "CKvCategory.h"
 #include "CKvUsageError.h"
+#include "commandLineOptions.h"
 #include "toolVersion.h"
 
-#include <CLI/CLI.hpp>
-
 #include <algorithm>
-#include <map>
-#include <string>
+#include <limits>
 
 namespace
 {
@@ -43,67 +41,6 @@ const std::map<std::string, CKvWhen> &whens()
     return s_whens;
 }
 
-QStringList toStringList(const std::vector<std::string> &texts)
-{
-    QStringList list;
-    for (const std::string &text : texts) {
-        list << QString::fromStdString(text);
-    }
-    return list;
-}
-
-/// Adds an option that takes one of some words.
-template <class Value>
-CLI::Option *addChoice(CLI::App &command,
-                       const std::string &name,
-                       const std::map<std::string, Value> &words,
-                       Value &target,
-                       const std::string &description)
-{
-    std::vector<std::string> all;
-    for (const auto &[word, value] : words) {
-        all.push_back(word);
-    }
-    return command
-        .add_option_function<std::string>(
-            name,
-            [&target, &words](const std::string &word) { target = words.at(word); },
-            description)
-        ->check(CLI::IsMember(all));
-}
-
-CLI::Option *
-addText(CLI::App &command, const std::string &name, QString &target, const std::string &description)
-{
-    return command.add_option_function<std::string>(
-        name,
-        [&target](const std::string &text) { target = QString::fromStdString(text); },
-        description);
-}
-
-/// An option that may be given several times, or a list of arguments.
-CLI::Option *addTexts(CLI::App &command,
-                      const std::string &name,
-                      QStringList &target,
-                      const std::string &description)
-{
-    return command.add_option_function<std::vector<std::string>>(
-        name,
-        [&target](const std::vector<std::string> &texts) { target = toStringList(texts); },
-        description);
-}
-
-CLI::Option *addRepeated(CLI::App &command,
-                         const std::string &name,
-                         QStringList &target,
-                         const std::string &description)
-{
-    return addTexts(command, name, target, description)
-        ->take_all()
-        ->expected(1)
-        ->allow_extra_args(false);
-}
-
 void addCategories(CLI::App &command, QStringList &target)
 {
     command.add_option_function<std::string>(
@@ -122,6 +59,20 @@ void addLanguage(CLI::App &command)
     command.add_option("--lang", "Language of text and html reports; there is English only")
         ->type_name("LANGUAGE")
         ->check(CLI::IsMember({ "en" }));
+}
+
+/// Empty for a number of seconds that a timer can wait.
+std::string timeoutFault(const std::string &text)
+{
+    // A timer counts milliseconds in an int.
+    constexpr double kLongestTimeout = std::numeric_limits<int>::max() / 1000;
+    bool isNumber = false;
+    const double seconds = QString::fromStdString(text).toDouble(&isNumber);
+    // Not a number is neither.
+    const bool isInRange = seconds > 0 && seconds <= kLongestTimeout;
+    return isNumber && isInRange ? std::string()
+                                 : text + " is no number of seconds above 0 and up to "
+            + std::to_string(int(kLongestTimeout));
 }
 
 void addRunOptions(CLI::App &command, CKvRunOptions &run)
@@ -161,7 +112,7 @@ void addRunOptions(CLI::App &command, CKvRunOptions &run)
         ->check(CLI::Range(0, 1024));
     command.add_option("--timeout", run.timeoutSeconds, "Give a drawing up after SECONDS")
         ->type_name("SECONDS")
-        ->check(CLI::PositiveNumber);
+        ->check(timeoutFault);
     command.add_flag("-q,--quiet", run.isQuiet, "Text report: only what is wrong");
     addChoice(command, "--color", whens(), run.color, "Colours in the text report")
         ->type_name("WHEN");
@@ -245,7 +196,7 @@ private:
             "--diff", fix.wantsDifference, "Print the change of each drawing as a unified diff");
         addText(command,
                 "--map",
-                m_mapFile,
+                m_options.run.mapFile,
                 "Candidates to take where none is recommended: CSV with "
                 "category,name,target[,standards file]")
             ->type_name("FILE");
@@ -345,8 +296,8 @@ private:
         if (m_options.command == CKvCommandKind::Fix) {
             requireSenseOfFix();
         }
-        if (!m_mapFile.isEmpty()) {
-            m_options.run.fix.map = readRepairMap(m_mapFile);
+        if (!run.mapFile.isEmpty()) {
+            m_options.run.fix.map = readRepairMap(run.mapFile);
         }
     }
 
@@ -371,7 +322,6 @@ private:
 
     CLI::App m_app;
     CKvBatchOptions m_options;
-    QString m_mapFile;
 };
 
 } // namespace

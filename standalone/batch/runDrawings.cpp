@@ -26,7 +26,8 @@ class CKvReportCollector
 {
 public:
     CKvReportCollector(const CKvRunOptions &options, CKvReportWriter &writer, std::size_t drawings)
-        : m_writer(writer)
+        : m_options(options)
+        , m_writer(writer)
         , m_summary(options.includesIgnored)
         , m_progress(options.progress, options.isQuiet, int(drawings))
         , m_waiting(drawings)
@@ -43,7 +44,7 @@ public:
         m_usedMapRows.insert(report.usedMapRows.begin(), report.usedMapRows.end());
         m_progress.clear();
         if (m_writer.takesAnyOrder()) {
-            m_writer.addDrawing(report);
+            write(report);
         } else {
             m_waiting[index] = report;
             writeWaiting();
@@ -55,11 +56,24 @@ private:
     void writeWaiting()
     {
         for (; m_next < m_waiting.size() && m_waiting[m_next]; ++m_next) {
-            m_writer.addDrawing(*m_waiting[m_next]);
+            write(*m_waiting[m_next]);
             m_waiting[m_next].reset();
         }
     }
 
+    void write(const CKvDrawingReport &report)
+    {
+        m_writer.addDrawing(report);
+        // The text report carries them itself.
+        if (m_options.format == CKvReportFormat::Text || m_options.isQuiet) {
+            return;
+        }
+        for (const QString &warning : report.warnings) {
+            printError(QStringLiteral("%1: Warning: %2").arg(report.path, warning));
+        }
+    }
+
+    const CKvRunOptions &m_options;
     CKvReportWriter &m_writer;
     CKvRunSummary m_summary;
     CKvProgress m_progress;
@@ -128,12 +142,29 @@ void tellUnusedRows(const CKvRunOptions &options,
     }
 }
 
+/// What of the drawings that were asked for can't be had or was passed over.
+void tellOfInputs(const CKvDrawingList &list, bool isQuiet, CKvRunSummary &summary)
+{
+    for (const QString &error : list.errors) {
+        printError(error);
+        summary.addFailure();
+    }
+    for (const QString &note : list.notes) {
+        if (!isQuiet) {
+            printError(note);
+        }
+    }
+    if (list.drawings.empty()) {
+        printError(QStringLiteral("There is no drawing to work on."));
+    }
+}
+
 } // namespace
 
 CKvExitStatus runDrawings(const CKvBatchOptions &options)
 {
     const CKvRunOptions &run = options.run;
-    const CKvDrawingList list = collectDrawings(run.inputs, run.filesFrom);
+    const CKvDrawingList list = collectDrawings(run.inputs, run.filesFrom, run.outputFolder);
     const std::vector<CKvDrawingJob> jobs = chooseOutputs(list.drawings, run);
     CKvReportOutput output(run.reportFile,
                            run.format == CKvReportFormat::JsonLines
@@ -147,13 +178,7 @@ CKvExitStatus runDrawings(const CKvBatchOptions &options)
         run.color == CKvWhen::Always || (run.reportFile.isEmpty() && wantsColor(run.color));
     const auto writer = makeReportWriter(run, output, isColored);
     CKvReportCollector collector(run, *writer, jobs.size());
-    for (const QString &error : list.errors) {
-        printError(error);
-        collector.summary().addFailure();
-    }
-    if (jobs.empty()) {
-        printError(QStringLiteral("There is no drawing to work on."));
-    }
+    tellOfInputs(list, run.isQuiet, collector.summary());
     writer->begin();
     const CKvJobSettings settings = { options.command, run.check, run.fix };
     // A process of its own for each job costs more than a small drawing.

@@ -8,7 +8,11 @@
 #include <io.h>
 #else
 #include <unistd.h>
+
+#include <csignal>
 #endif
+
+#include <cerrno>
 
 void prepareStandardStreams()
 {
@@ -17,6 +21,9 @@ void prepareStandardStreams()
         _setmode(_fileno(stream), _O_BINARY);
     }
     SetConsoleOutputCP(CP_UTF8);
+#else
+    // Otherwise "kvstandards ... | head" would end with the status of a signal.
+    std::signal(SIGPIPE, SIG_IGN);
 #endif
 }
 
@@ -44,8 +51,21 @@ void printError(const QString &line)
     std::fwrite(bytes.constData(), 1, std::size_t(bytes.size()), stderr);
 }
 
-void printOutput(const QString &text)
+bool printOutput(const QString &text)
 {
     const QByteArray bytes = text.toUtf8();
-    std::fwrite(bytes.constData(), 1, std::size_t(bytes.size()), stdout);
+    const std::size_t size = std::size_t(bytes.size());
+    errno = 0;
+    if (std::fwrite(bytes.constData(), 1, size, stdout) == size && std::fflush(stdout) == 0) {
+        return true;
+    }
+    printError(outputFailureText(errno));
+    return false;
+}
+
+QString outputFailureText(int systemError)
+{
+    return systemError == 0
+        ? QStringLiteral("Standard output can't be written.")
+        : QStringLiteral("Standard output can't be written: %1.").arg(qt_error_string(systemError));
 }

@@ -4,11 +4,11 @@
 #include "CKvDrawingFile.h"
 #include "CKvDrawingRepair.h"
 #include "CKvDxfError.h"
+#include "CKvFileReplacement.h"
 #include "absolutePath.h"
 
 #include <QDir>
 #include <QFileInfo>
-#include <QSaveFile>
 
 namespace
 {
@@ -16,14 +16,11 @@ namespace
 /// The copy is made of the bytes that were read, whatever has happened to the file since.
 void writeBackup(std::string_view bytes, const QString &path)
 {
-    QSaveFile backup(path + QStringLiteral(".bak"));
-    const bool isWritten = backup.open(QIODevice::WriteOnly)
-        && backup.write(bytes.data(), qint64(bytes.size())) == qint64(bytes.size())
-        && backup.flush() && backup.commit();
-    if (!isWritten) {
-        throw CKvDxfError(backup.fileName(), 0, backup.errorString() + QLatin1Char('.'));
-    }
+    CKvFileReplacement backup(backupPath(path));
+    // At once, so that nobody reads the copy who may not read the drawing.
     backup.setPermissions(QFile::permissions(path));
+    backup.write(bytes);
+    backup.commit();
 }
 
 void requireFolder(const QString &file)
@@ -35,6 +32,11 @@ void requireFolder(const QString &file)
 }
 
 } // namespace
+
+QString backupPath(const QString &path)
+{
+    return path + QStringLiteral(".bak");
+}
 
 QString writeRepairedDrawing(const CKvDrawingRepair &repair,
                              const QString &path,

@@ -5,6 +5,9 @@
 
 class CKvDrawingRepair;
 
+/// Where the copy of a drawing goes before it is replaced.
+QString backupPath(const QString &path);
+
 /// Writes a repaired drawing. Over the drawing itself only when it changed, and after a copy
 /// NAME.bak if so wanted; elsewhere always, the folder is made.
 /// @param path the drawing that was read.

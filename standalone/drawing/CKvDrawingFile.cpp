@@ -4,10 +4,7 @@
 #include "CKvDrawingLoader.h"
 #include "CKvDrawingStore.h"
 #include "CKvDrawingWriter.h"
-#include "CKvDxfError.h"
-
-#include <QFileInfo>
-#include <QSaveFile>
+#include "CKvFileReplacement.h"
 
 namespace
 {
@@ -42,29 +39,12 @@ QByteArray CKvDrawingFile::toBytes(const OdDbDatabase &drawing)
 
 void CKvDrawingFile::save(const OdDbDatabase &drawing, const QString &path)
 {
-    const QFileInfo target(path);
-    if (target.exists() && !target.isFile()) {
-        throw CKvDxfError(
-            path, 0, QStringLiteral("The file can't be written: it is a folder or a device."));
-    }
     const CKvDrawingWriter writer(drawing.store());
-    QSaveFile file(path);
-    const auto refuse = [&] {
-        throw CKvDxfError(
-            path, 0, QStringLiteral("The file can't be written: %1").arg(file.errorString()));
-    };
-    if (!file.open(QIODevice::WriteOnly)) {
-        refuse();
-    }
+    CKvFileReplacement file(path);
     for (const std::string_view piece : writer.pieces()) {
-        if (file.write(piece.data(), qint64(piece.size())) != qint64(piece.size())) {
-            refuse();
-        }
+        file.write(piece);
     }
-    // Committing would lose a failure to write what is still in the buffer, and replace the file.
-    if (!file.flush() || !file.commit()) {
-        refuse();
-    }
+    file.commit();
 }
 
 bool CKvDrawingFile::isChanged(const OdDbDatabase &drawing)

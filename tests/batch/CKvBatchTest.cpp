@@ -8,10 +8,52 @@
 #include <QProcess>
 #include <QRegularExpression>
 
+#include <sys/resource.h>
+#include <unistd.h>
+
+#include <csignal>
 #include <memory>
 
 namespace
 {
+
+/// A process that meets obstacles.
+class CKvHinderedProcess : public QProcess
+{
+public:
+    explicit CKvHinderedProcess(const CKvRunObstacles &obstacles)
+        : m_obstacles(obstacles)
+    {
+    }
+
+protected:
+    /// Between the fork and the start of the program.
+    void setupChildProcess() override
+    {
+        if (m_obstacles.largestFile >= 0) {
+            const rlim_t most = rlim_t(m_obstacles.largestFile);
+            const rlimit limit = { most, most };
+            setrlimit(RLIMIT_FSIZE, &limit);
+            // Else the signal would end the program, where a full disk only refuses.
+            std::signal(SIGXFSZ, SIG_IGN);
+        }
+        int ends[2] = { -1, -1 };
+        if (m_obstacles.output == CKvRunObstacles::Output::ReaderGone && pipe(ends) == 0) {
+            dup2(ends[1], STDOUT_FILENO);
+            ::close(ends[0]);
+            ::close(ends[1]);
+        }
+        constexpr uid_t kNobody = 65534;
+        const bool isRestricted = !m_obstacles.isUnprivileged || geteuid() != 0
+            || (setgid(kNobody) == 0 && setuid(kNobody) == 0);
+        if (!isRestricted) {
+            _exit(99);
+        }
+    }
+
+private:
+    CKvRunObstacles m_obstacles;
+};
 
 /// QProcess wants one.
 void requireApplication()
@@ -35,7 +77,10 @@ void PrintTo(const CKvBatchRun &run, std::ostream *out)
 CKvBatchRun CKvBatchTest::run(const QStringList &arguments, const QByteArray &input) const
 {
     requireApplication();
-    QProcess program;
+    CKvHinderedProcess program(m_obstacles);
+    if (m_obstacles.output == CKvRunObstacles::Output::FullDisk) {
+        program.setStandardOutputFile(QStringLiteral("/dev/full"));
+    }
     QStringList environment = QProcess::systemEnvironment().filter(
         QRegularExpression(QStringLiteral("^(?!NO_COLOR=|TERM=)")));
     program.setEnvironment(environment + m_environment);
@@ -56,6 +101,11 @@ CKvBatchRun CKvBatchTest::run(const QStringList &arguments, const QByteArray &in
     result.output = program.readAllStandardOutput().toStdString();
     result.errors = program.readAllStandardError().toStdString();
     return result;
+}
+
+void CKvBatchTest::setPermissions(const QString &name, QFileDevice::Permissions permissions) const
+{
+    ASSERT_TRUE(QFile::setPermissions(path(name), permissions)) << path(name).toStdString();
 }
 
 bool CKvBatchTest::exists(const QString &name) const

@@ -4,6 +4,7 @@
 #include "CKvDrawingBuilder.h"
 
 #include <QByteArray>
+#include <QFileDevice>
 #include <QStringList>
 #include <QTemporaryDir>
 
@@ -23,6 +24,17 @@ struct CKvBatchRun {
 /// So that a failing expectation shows the whole run.
 void PrintTo(const CKvBatchRun &run, std::ostream *out);
 
+/// What stands in the way of a run.
+struct CKvRunObstacles {
+    enum class Output { None, FullDisk, ReaderGone };
+    /// Of standard output.
+    Output output = Output::None;
+    /// No file may grow beyond this many bytes, as if the disk were full then; negative for none.
+    long long largestFile = -1;
+    /// The user has no rights beyond those that the files give to everybody.
+    bool isUnprivileged = false;
+};
+
 /// Runs the program in an empty folder.
 class CKvBatchTest : public ::testing::Test
 {
@@ -34,6 +46,11 @@ protected:
     {
         m_environment << name + QLatin1Char('=') + value;
     }
+
+    /// For the runs to come.
+    void setObstacles(const CKvRunObstacles &obstacles) { m_obstacles = obstacles; }
+    /// @param permissions of a file or folder.
+    void setPermissions(const QString &name, QFileDevice::Permissions permissions) const;
 
     QString path(const QString &name) const { return m_folder.filePath(name); }
     std::string fullPath(const QString &name) const { return path(name).toStdString(); }
@@ -63,4 +80,5 @@ protected:
 private:
     QTemporaryDir m_folder;
     QStringList m_environment;
+    CKvRunObstacles m_obstacles;
 };

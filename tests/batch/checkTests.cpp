@@ -84,6 +84,20 @@ TEST_F(BatchCheck, ADrawingThatCannotBeReadEndsWith3AndTheOthersAreDone)
               R"({"drawings":3,"failed":2,"violations":1,"ignored":0})");
 }
 
+TEST_F(BatchCheck, ADrawingWithoutStandardsIsNotCheckedAndNotCountedAsFailed)
+{
+    const CKvBatchRun result = run({ QStringLiteral("check"),
+                                     QStringLiteral("red.dxf"),
+                                     QStringLiteral("gone.dxf"),
+                                     QStringLiteral("-f"),
+                                     QStringLiteral("json") });
+
+    EXPECT_EQ(result.status, 3);
+    EXPECT_EQ(statuses(result), "red.dxf no-standards\ngone.dxf failed\n");
+    EXPECT_EQ(json(result).at("summary").dump(),
+              R"({"drawings":2,"failed":1,"violations":0,"ignored":0})");
+}
+
 TEST_F(BatchCheck, ADamagedStampMakesTheDrawingFail)
 {
     CKvDrawingBuilder drawing = redWalls();

@@ -272,6 +272,21 @@ TEST_F(BatchFix, TheTextReportTellsWhatWasDoneAndWhereItWent)
               "1 drawing checked: no violations; 1 repaired\n");
 }
 
+TEST_F(BatchFix, QuietSaysNothingOfRepairsThatLeaveNothingOpen)
+{
+    const CKvBatchRun result = run({ QStringLiteral("fix"),
+                                     QStringLiteral("-q"),
+                                     QStringLiteral("-s"),
+                                     QStringLiteral("std.dxf"),
+                                     QStringLiteral("red.dxf"),
+                                     QStringLiteral("-o"),
+                                     QStringLiteral("out") });
+
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(result.output + result.errors, "");
+    EXPECT_EQ(bytes(QStringLiteral("out/red.dxf")), repaired(redWalls()));
+}
+
 TEST_F(BatchFix, DiffPrintsTheChangeAndAloneWritesNothing)
 {
     const CKvBatchRun result = run({ QStringLiteral("fix"),

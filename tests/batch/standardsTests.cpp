@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "CKvBatchTest.h"
+#include "CKvStandardsRunTest.h"
 
 #include <gmock/gmock.h>
 
@@ -8,60 +8,7 @@ using ::testing::StartsWith;
 namespace
 {
 
-class BatchStandards : public CKvBatchTest
-{
-protected:
-    CKvBatchRun check(const QStringList &arguments) const
-    {
-        return run(QStringList { QStringLiteral("check"),
-                                 QStringLiteral("-f"),
-                                 QStringLiteral("json"),
-                                 QStringLiteral("plans/a.dxf") }
-                   + arguments);
-    }
-    void saveDrawing(const QStringList &standards) const
-    {
-        CKvDrawingBuilder drawing = redWalls();
-        drawing.standardsFiles(standards);
-        save(QStringLiteral("plans/a.dxf"), drawing);
-    }
-    /// Standards whose layer WALLS has this colour, and nothing else.
-    void saveStandards(const QString &name, int color) const
-    {
-        CKvDrawingBuilder standards;
-        standards.layer("WALLS").color(color).lineWeight(50);
-        standards.layer("DOORS").color(3);
-        standards.layer("0");
-        save(name, standards);
-    }
-    /// "status path" a line; with "WALLS color" when that is what the recommended candidate has.
-    std::string standards(const CKvBatchRun &run) const
-    {
-        std::string lines;
-        const auto drawing = firstDrawing(run);
-        for (const auto &file : drawing.at("standards")) {
-            std::string filePath = file.at("path").get<std::string>();
-            const std::string folder = fullPath(QString()) + "/";
-            if (filePath.compare(0, folder.size(), folder) == 0) {
-                filePath = "/" + filePath.substr(folder.size());
-            }
-            lines += file.at("status").get<std::string>() + " " + filePath + "\n";
-        }
-        return lines;
-    }
-    static std::string standardColor(const CKvBatchRun &run)
-    {
-        return firstDrawing(run)
-            .at("violations")
-            .at(0)
-            .at("fixes")
-            .at(0)
-            .at("differences")
-            .at(0)
-            .at("standard")
-            .get<std::string>();
-    }
-};
+using BatchStandards = CKvStandardsRunTest;
 
 } // namespace
 
@@ -253,37 +200,6 @@ TEST_F(BatchStandards, ARelativeStoredPathCountsFromTheWorkingDirectoryFirst)
     saveDrawing({ QStringLiteral("std.dws") });
 
     EXPECT_EQ(standards(check({})), "read /std.dws\n");
-}
-
-TEST_F(BatchStandards, ThePreferredFileComesFirst)
-{
-    saveStandards(QStringLiteral("blue.dxf"), 5);
-    saveStandards(QStringLiteral("green.dxf"), 3);
-    saveDrawing({ path(QStringLiteral("blue.dxf")), path(QStringLiteral("green.dxf")) });
-    const QStringList given = { QStringLiteral("-s"),
-                                QStringLiteral("blue.dxf"),
-                                QStringLiteral("-s"),
-                                QStringLiteral("green.dxf") };
-
-    for (const QString &preferred :
-         { QStringLiteral("green.dxf"), path(QStringLiteral("green.dxf")) }) {
-        const QStringList options = { QStringLiteral("--preferred"), preferred };
-        EXPECT_EQ(standards(check(options)), "read /green.dxf\nread /blue.dxf\n");
-        EXPECT_EQ(standards(check(options + given)), "read /green.dxf\nread /blue.dxf\n");
-    }
-}
-
-TEST_F(BatchStandards, APreferredFileThatIsNotListedIsNotAdded)
-{
-    saveStandards(QStringLiteral("blue.dxf"), 5);
-    saveStandards(QStringLiteral("green.dxf"), 3);
-    saveDrawing({ path(QStringLiteral("blue.dxf")) });
-    const QStringList options = { QStringLiteral("--preferred"), QStringLiteral("green.dxf") };
-
-    EXPECT_EQ(standards(check(options)), "read /blue.dxf\n");
-    EXPECT_EQ(standards(check(options
-                              + QStringList { QStringLiteral("-s"), QStringLiteral("blue.dxf") })),
-              "read /blue.dxf\n");
 }
 
 TEST_F(BatchStandards, ADamagedListMakesTheDrawingFail)

@@ -59,6 +59,10 @@ TEST_F(BatchUsage, WhatTheParserRefusesIsWrongUsage)
     expectWrong(words("check a.dxf -j many"), "many");
     expectWrong(words("check a.dxf --timeout 0"), "--timeout");
     expectWrong(words("check a.dxf --timeout soon"), "soon");
+    expectWrong(words("check a.dxf --timeout -1"), "--timeout");
+    expectWrong(words("check a.dxf --timeout nan"), "above 0 and up to 2147483");
+    expectWrong(words("check a.dxf --timeout inf"), "above 0 and up to 2147483");
+    expectWrong(words("check a.dxf --timeout 2147484"), "above 0 and up to 2147483");
     expectWrong(words("check a.dxf --lang tlh"), "tlh");
     expectWrong(words("files"), "DRAWING");
     expectWrong(words("ignore a.dxf layers"), "NAME");
@@ -131,4 +135,19 @@ TEST_F(BatchUsage, ADrawingMayBeCalledLikeACommand)
     save(QStringLiteral("std.dxf"), officeStandards());
 
     EXPECT_EQ(run(words("check -s std.dxf fix")).status, 0);
+}
+
+TEST_F(BatchUsage, AnOptionBeforeTheDrawingTakesOneFileOnly)
+{
+    save(QStringLiteral("a.dxf"), redWalls());
+    save(QStringLiteral("std.dxf"), officeStandards());
+    save(QStringLiteral("more.dxf"), officeStandards());
+
+    const CKvBatchRun result = run(words("check -s std.dxf -s more.dxf --search-path . a.dxf"));
+
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.output.substr(0, result.output.find('\n')), "a.dxf: 1 violation");
+    EXPECT_EQ(run(words("files --add std.dxf a.dxf")).output,
+              fullPath(QStringLiteral("std.dxf\n")));
+    EXPECT_EQ(run(words("files --remove std.dxf a.dxf")).status, 0);
 }
