@@ -19,4 +19,7 @@ enum LineWeight : int {
 /// What cloning does with a record whose name the destination has.
 enum DuplicateRecordCloning { kIgnoreDuplicates = 1, kReplaceDuplicates = 2 };
 
+/// Kinds of rows of a table; the numbers can be added up.
+enum RowType : unsigned { kTitleRow = 1, kHeaderRow = 2, kDataRow = 4, kAllRows = 7 };
+
 } // namespace OdDb

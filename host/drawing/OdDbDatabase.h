@@ -40,6 +40,12 @@ public:
     /// dictionaries.
     OdDbObjectId getPlotStyleNameDictionaryId() const;
 
+    /// The reserved line styles, by their names. A drawing that lacks one gives the id of a
+    /// stand-in.
+    OdDbObjectId getLinetypeByLayerId() const;
+    OdDbObjectId getLinetypeByBlockId() const;
+    OdDbObjectId getLinetypeContinuousId() const;
+
     /// The object of that handle, null when there is none.
     OdDbObjectId getOdDbObjectId(OdDbHandle handle) const;
     /// Makes a new object, or one of another drawing, part of this one. The object keeps its
@@ -51,6 +57,14 @@ public:
     /// The current layer, header variable CLAYER.
     OdDbObjectId getCLAYER() const;
     void setCLAYER(OdDbObjectId layerId);
+    /// The current line style, header variable CELTYPE; ByLayer when the file has none.
+    OdDbObjectId getCELTYPE() const;
+    /// @throws OdError_InvalidSysvarValue when the line style is not one of this drawing.
+    void setCELTYPE(OdDbObjectId linetypeId);
+    /// The current text style, header variable TEXTSTYLE; Standard when the file has none.
+    OdDbObjectId getTEXTSTYLE() const;
+    /// @throws OdError_InvalidSysvarValue when the text style is not one of this drawing.
+    void setTEXTSTYLE(OdDbObjectId styleId);
     /// Header variable MEASUREMENT; 0 (inches) when the file has none, otherwise metric.
     int getMEASUREMENT() const;
     /// A system variable by its name, letter case aside: a header variable of the drawing,

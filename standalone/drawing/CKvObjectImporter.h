@@ -42,6 +42,9 @@ public:
     /// The record of that name in the drawing, cloned from the source's drawing when it is missing.
     /// @return null when neither has it.
     CKvObjectSlot *findOrClone(CKvDrawingStore &source, CKvTableKind kind, const QString &name);
+    /// Enters an application in the APPID table where it is missing: extended data may only name
+    /// those that stand there.
+    void requireApplication(const QString &name);
 
 private:
     std::string translated(const CKvObjectSlot &source,
@@ -49,8 +52,6 @@ private:
                            std::uint64_t owner,
                            std::string_view extensionGroup,
                            CKvExtendedData extendedData = CKvExtendedData::Taken);
-    /// Extended data may only name applications of the APPID table.
-    void requireApplication(const QString &name);
     CKvObjectSlot *findCounterpart(const CKvObjectSlot &source, CKvTableKind kind);
     std::uint64_t ownerHandle(CKvObjectSlot *owner);
     std::uint64_t translatedHandle(CKvDrawingStore *source, std::uint64_t handle);

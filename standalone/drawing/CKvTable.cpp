@@ -22,7 +22,8 @@ void CKvTable::add(CKvObjectSlot &record)
 
 CKvObjectSlot *CKvTable::find(const QString &name)
 {
-    return m_index.find(name);
+    // Shape files have no name, and the group that names nothing means none of them.
+    return name.isEmpty() ? nullptr : m_index.find(name);
 }
 
 CKvObjectSlot *CKvTable::findEncoded(std::string_view encodedName)

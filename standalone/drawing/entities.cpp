@@ -14,15 +14,73 @@ namespace
 
 constexpr int kExternalReferenceFlags = 4 | 8;
 
-std::string_view encodedLayer(const CKvObjectSlot &slot)
+/// A name that all entities have, in the part that is common to them.
+struct CKvEntityName {
+    CKvTableKind table;
+    int code;
+    /// What counts when the group is missing.
+    std::string_view fallback;
+    /// New groups stand behind the first of these that is there.
+    std::initializer_list<int> anchors;
+};
+
+constexpr CKvEntityName kLayer = { CKvTableKind::Layer, 8, "0", { 100, 67, 330, 5, 0 } };
+constexpr CKvEntityName kLineStyle = {
+    CKvTableKind::Linetype, 6, "ByLayer", { 8, 100, 67, 330, 5, 0 }
+};
+
+std::string_view encodedName(const CKvObjectSlot &slot, const CKvEntityName &name)
 {
-    const std::optional<CKvTag> layer = findTag(slot, 8, CKvTagScope::EntityPart);
-    return layer ? layer->value : std::string_view("0");
+    const std::optional<CKvTag> tag = findTag(slot, name.code, CKvTagScope::EntityPart);
+    return tag ? tag->value : name.fallback;
 }
 
-void writeLayer(CKvObjectSlot &slot, std::string_view encodedName)
+CKvObjectSlot &recordOf(const CKvObjectSlot &slot, const CKvEntityName &name)
 {
-    setTag(slot, 8, encodedName, { 100, 67, 330, 5, 0 }, CKvTagScope::EntityPart);
+    return slot.store->table(name.table).findOrStandIn(encodedName(slot, name));
+}
+
+void writeName(CKvObjectSlot &slot, const CKvEntityName &name, std::string_view encoded)
+{
+    setTag(slot, name.code, encoded, name.anchors, CKvTagScope::EntityPart);
+}
+
+/// Vertices and the end mark follow where they had the same record; the attributes of an insertion
+/// stand between it and its end mark and are entities of their own.
+void writeNameOfParts(CKvObjectSlot &slot,
+                      const CKvEntityName &name,
+                      const CKvObjectSlot *before,
+                      std::string_view encoded)
+{
+    static const OdRxClass *const s_attribute = objectClass("ATTRIB", CKvObjectSlot::Role::Entity);
+    if (slot.rxClass == s_attribute) {
+        return;
+    }
+    for (CKvObjectSlot *part = slot.store->slotBehind(slot); part && part->owner == slot.owner;
+         part = slot.store->slotBehind(*part)) {
+        const bool isPart = part->role == CKvObjectSlot::Role::SubEntity;
+        if (!isPart && part->rxClass != s_attribute) {
+            return;
+        }
+        if (isPart && !part->isErased && &recordOf(*part, name) == before) {
+            writeName(*part, name, encoded);
+        }
+    }
+}
+
+void setName(CKvObjectSlot &slot, const CKvEntityName &name, OdDbObjectId id, bool withParts)
+{
+    if (id.isNull() || id.slot()->store != slot.store) {
+        throw OdError(OdResult::kInvalidInput,
+                      name.code == kLayer.code ? "The layer is not one of this drawing."
+                                               : "The line style is not one of this drawing.");
+    }
+    const CKvObjectSlot *before = &recordOf(slot, name);
+    const std::string encoded(encodedRecordName(*id.slot()));
+    writeName(slot, name, encoded);
+    if (withParts) {
+        writeNameOfParts(slot, name, before, encoded);
+    }
 }
 
 } // namespace
@@ -148,40 +206,26 @@ OdDbEntityPtr OdDbEntity::cast(const OdRxObject *object)
 
 OdDbObjectId OdDbEntity::layerId() const
 {
-    CKvObjectSlot &slot = *CKvObjectAccess::slotOf(*this);
-    return slot.store->table(CKvTableKind::Layer).findOrStandIn(encodedLayer(slot)).id();
+    return recordOf(*CKvObjectAccess::slotOf(*this), kLayer).id();
 }
 
 OdString OdDbEntity::layer() const
 {
     const CKvObjectSlot &slot = *CKvObjectAccess::slotOf(*this);
-    return OdString(slot.format().codec.decode(encodedLayer(slot)));
+    return OdString(slot.format().codec.decode(encodedName(slot, kLayer)));
 }
 
 void OdDbEntity::setLayer(OdDbObjectId layerId, bool doSubents, bool)
 {
-    CKvObjectSlot &slot = CKvObjectAccess::beginChange(*this);
-    if (layerId.isNull() || layerId.slot()->store != slot.store) {
-        throw OdError(OdResult::kInvalidInput, "The layer is not one of this drawing.");
-    }
-    CKvTable &layers = slot.store->table(CKvTableKind::Layer);
-    const CKvObjectSlot *oldLayer = &layers.findOrStandIn(encodedLayer(slot));
-    const std::string name(encodedRecordName(*layerId.slot()));
-    writeLayer(slot, name);
-    // Vertices and the end mark follow; the attributes of an insertion stand between it and its end
-    // mark and are entities of their own.
-    static const OdRxClass *const s_attribute = objectClass("ATTRIB", CKvObjectSlot::Role::Entity);
-    if (!doSubents || slot.rxClass == s_attribute) {
-        return;
-    }
-    for (CKvObjectSlot *part = slot.store->slotBehind(slot); part && part->owner == slot.owner;
-         part = slot.store->slotBehind(*part)) {
-        const bool isPart = part->role == CKvObjectSlot::Role::SubEntity;
-        if (!isPart && part->rxClass != s_attribute) {
-            return;
-        }
-        if (isPart && !part->isErased && &layers.findOrStandIn(encodedLayer(*part)) == oldLayer) {
-            writeLayer(*part, name);
-        }
-    }
+    setName(CKvObjectAccess::beginChange(*this), kLayer, layerId, doSubents);
+}
+
+OdDbObjectId OdDbEntity::linetypeId() const
+{
+    return recordOf(*CKvObjectAccess::slotOf(*this), kLineStyle).id();
+}
+
+void OdDbEntity::setLinetype(OdDbObjectId linetypeId, bool doSubents)
+{
+    setName(CKvObjectAccess::beginChange(*this), kLineStyle, linetypeId, doSubents);
 }

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "objectClasses.h"
 
+#include "OdDbArcAlignedText.h"
+#include "OdDbAttribute.h"
+#include "OdDbAttributeDefinition.h"
 #include "OdDbBlockTable.h"
 #include "OdDbBlockTableRecord.h"
 #include "OdDbDictionary.h"
@@ -11,13 +14,17 @@
 #include "OdDbLayerTableRecord.h"
 #include "OdDbLinetypeTable.h"
 #include "OdDbLinetypeTableRecord.h"
+#include "OdDbMText.h"
 #include "OdDbMaterial.h"
 #include "OdDbMlineStyle.h"
 #include "OdDbPlaceHolder.h"
+#include "OdDbTable.h"
+#include "OdDbText.h"
 #include "OdDbTextStyleTable.h"
 #include "OdDbTextStyleTableRecord.h"
 #include "OdDbViewportTableRecord.h"
 #include "OdDbXrecord.h"
+#include "RText.h"
 #include "rxConstruction.h"
 
 #include <memory>
@@ -52,21 +59,15 @@ OdRxClass *genericClass(std::string_view type, CKvObjectSlot::Role role)
     return known.get();
 }
 
-OdRxClass *recordClass(std::string_view type)
+struct CKvClassRow {
+    std::string_view type;
+    OdRxClass *(*desc)();
+};
+
+template <std::size_t count>
+OdRxClass *classOf(std::string_view type, const CKvClassRow (&rows)[count])
 {
-    struct Row {
-        std::string_view type;
-        OdRxClass *(*desc)();
-    };
-    static constexpr Row kRows[] = {
-        { "LAYER", &OdDbLayerTableRecord::desc },
-        { "LTYPE", &OdDbLinetypeTableRecord::desc },
-        { "STYLE", &OdDbTextStyleTableRecord::desc },
-        { "DIMSTYLE", &OdDbDimStyleTableRecord::desc },
-        { "BLOCK_RECORD", &OdDbBlockTableRecord::desc },
-        { "VPORT", &OdDbViewportTableRecord::desc },
-    };
-    for (const Row &row : kRows) {
+    for (const CKvClassRow &row : rows) {
         if (row.type == type) {
             return row.desc();
         }
@@ -74,23 +75,41 @@ OdRxClass *recordClass(std::string_view type)
     return nullptr;
 }
 
+OdRxClass *recordClass(std::string_view type)
+{
+    static constexpr CKvClassRow kRows[] = {
+        { "LAYER", &OdDbLayerTableRecord::desc },
+        { "LTYPE", &OdDbLinetypeTableRecord::desc },
+        { "STYLE", &OdDbTextStyleTableRecord::desc },
+        { "DIMSTYLE", &OdDbDimStyleTableRecord::desc },
+        { "BLOCK_RECORD", &OdDbBlockTableRecord::desc },
+        { "VPORT", &OdDbViewportTableRecord::desc },
+    };
+    return classOf(type, kRows);
+}
+
+OdRxClass *entityClass(std::string_view type)
+{
+    static constexpr CKvClassRow kRows[] = {
+        { "TEXT", &OdDbText::desc },
+        { "MTEXT", &OdDbMText::desc },
+        { "ATTRIB", &OdDbAttribute::desc },
+        { "ATTDEF", &OdDbAttributeDefinition::desc },
+        { "ARCALIGNEDTEXT", &OdDbArcAlignedText::desc },
+        { "RTEXT", &RText::desc },
+        { "ACAD_TABLE", &OdDbTable::desc },
+    };
+    return classOf(type, kRows);
+}
+
 OdRxClass *namedObjectClass(std::string_view type)
 {
-    struct Row {
-        std::string_view type;
-        OdRxClass *(*desc)();
-    };
-    static constexpr Row kRows[] = {
+    static constexpr CKvClassRow kRows[] = {
         { "DICTIONARY", &OdDbDictionary::desc }, { "ACDBDICTIONARYWDFLT", &OdDbDictionary::desc },
         { "XRECORD", &OdDbXrecord::desc },       { "MLINESTYLE", &OdDbMlineStyle::desc },
         { "MATERIAL", &OdDbMaterial::desc },     { "ACDBPLACEHOLDER", &OdDbPlaceHolder::desc },
     };
-    for (const Row &row : kRows) {
-        if (row.type == type) {
-            return row.desc();
-        }
-    }
-    return nullptr;
+    return classOf(type, kRows);
 }
 
 } // namespace
@@ -100,6 +119,8 @@ OdRxClass *objectClass(std::string_view type, CKvObjectSlot::Role role)
     OdRxClass *own = nullptr;
     if (role == CKvObjectSlot::Role::Record || role == CKvObjectSlot::Role::StandIn) {
         own = recordClass(type);
+    } else if (role == CKvObjectSlot::Role::Entity) {
+        own = entityClass(type);
     } else if (role == CKvObjectSlot::Role::Object) {
         own = namedObjectClass(type);
     }

@@ -2,9 +2,8 @@
 #include "CKvDrawingStore.h"
 #include "CKvObjectAccess.h"
 #include "OdDbDimStyleTableRecord.h"
-#include "OdDbLinetypeTableRecord.h"
 #include "OdDbSymbolTableRecord.h"
-#include "OdDbTextStyleTableRecord.h"
+#include "makeRecord.h"
 #include "nameUses.h"
 #include "objectTags.h"
 #include "recordNames.h"
@@ -78,20 +77,6 @@ void rewriteUses(CKvDrawingStore &store,
     });
 }
 
-template <class T> OdSmartPtr<T> makeRecord(std::string_view type, std::string_view mark)
-{
-    OdSmartPtr<T> record(new T, kOdRxObjAttach);
-    CKvObjectAccess::makeDetached(*record, type);
-    CKvObjectSlot &slot = *CKvObjectAccess::slotOf(*record);
-    slot.rxClass = T::desc();
-    const CKvTagStyle &style = slot.format().style;
-    appendTag(*slot.own, style, 100, "AcDbSymbolTableRecord");
-    appendTag(*slot.own, style, 100, mark);
-    appendTag(*slot.own, style, 2, "");
-    appendTag(*slot.own, style, 70, "0");
-    return record;
-}
-
 } // namespace
 
 OdRxClass *OdDbSymbolTableRecord::desc()
@@ -148,56 +133,6 @@ bool OdDbSymbolTableRecord::isDependent() const
     const std::optional<CKvTag> flags = findTag(*CKvObjectAccess::slotOf(*this), 70);
     return (flags && (flags->integer() & kDependentFlag) != 0)
         || getName().toQString().contains(QLatin1Char('|'));
-}
-
-OdRxClass *OdDbLinetypeTableRecord::desc()
-{
-    static OdRxClass s_class(OdString("OdDbLinetypeTableRecord"),
-                             OdDbSymbolTableRecord::desc(),
-                             &constructRx<OdDbLinetypeTableRecord>,
-                             OdString("LTYPE"));
-    return &s_class;
-}
-
-OdDbLinetypeTableRecordPtr OdDbLinetypeTableRecord::cast(const OdRxObject *object)
-{
-    return castRx<OdDbLinetypeTableRecord>(object);
-}
-
-OdDbLinetypeTableRecordPtr OdDbLinetypeTableRecord::createObject()
-{
-    return makeRecord<OdDbLinetypeTableRecord>("LTYPE", "AcDbLinetypeTableRecord");
-}
-
-int OdDbLinetypeTableRecord::numDashes() const
-{
-    const std::optional<CKvTag> count = findTag(*CKvObjectAccess::slotOf(*this), 73);
-    return count ? int(count->integer()) : 0;
-}
-
-double OdDbLinetypeTableRecord::patternLength() const
-{
-    const std::optional<CKvTag> length = findTag(*CKvObjectAccess::slotOf(*this), 40);
-    return length ? length->real() : 0;
-}
-
-OdRxClass *OdDbTextStyleTableRecord::desc()
-{
-    static OdRxClass s_class(OdString("OdDbTextStyleTableRecord"),
-                             OdDbSymbolTableRecord::desc(),
-                             &constructRx<OdDbTextStyleTableRecord>,
-                             OdString("STYLE"));
-    return &s_class;
-}
-
-OdDbTextStyleTableRecordPtr OdDbTextStyleTableRecord::cast(const OdRxObject *object)
-{
-    return castRx<OdDbTextStyleTableRecord>(object);
-}
-
-OdDbTextStyleTableRecordPtr OdDbTextStyleTableRecord::createObject()
-{
-    return makeRecord<OdDbTextStyleTableRecord>("STYLE", "AcDbTextStyleTableRecord");
 }
 
 OdRxClass *OdDbDimStyleTableRecord::desc()

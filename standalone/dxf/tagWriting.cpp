@@ -93,34 +93,6 @@ std::string spelledTag(const CKvTagStyle &style, int code, std::string_view valu
     return text;
 }
 
-/// The value of a binary tag in the words of an ASCII file.
-std::string asciiValue(const CKvTag &tag)
-{
-    switch (groupValueType(tag.code)) {
-    case CKvGroupValueType::Bool:
-    case CKvGroupValueType::Int16:
-    case CKvGroupValueType::Int32:
-    case CKvGroupValueType::Int64:
-        return std::to_string(tag.integer());
-    case CKvGroupValueType::Real:
-        return realToText(tag.real());
-    case CKvGroupValueType::Bytes: {
-        constexpr char kDigits[] = "0123456789ABCDEF";
-        std::string hex;
-        for (const char c : tag.value.substr(tag.value.empty() ? 0 : 1)) {
-            const auto byte = static_cast<unsigned char>(c);
-            hex.push_back(kDigits[byte >> 4]);
-            hex.push_back(kDigits[byte & 15]);
-        }
-        return hex;
-    }
-    case CKvGroupValueType::Text:
-    case CKvGroupValueType::Handle:
-        break;
-    }
-    return std::string(tag.value);
-}
-
 } // namespace
 
 void appendTag(std::string &bytes, const CKvTagStyle &style, int code, std::string_view value)
@@ -158,13 +130,39 @@ void removeTag(std::string &bytes, const CKvTag &tag)
     bytes.erase(tag.begin, tag.end - tag.begin);
 }
 
-void appendTagCopy(std::string &bytes, const CKvTagStyle &style, const CKvTag &tag)
+std::string asciiValue(const CKvTag &tag)
 {
     if (tag.form == CKvTagForm::Ascii) {
-        appendTag(bytes, style, tag.code, tag.value);
-    } else {
-        appendTag(bytes, style, tag.code, asciiValue(tag));
+        return std::string(tag.value);
     }
+    switch (groupValueType(tag.code)) {
+    case CKvGroupValueType::Bool:
+    case CKvGroupValueType::Int16:
+    case CKvGroupValueType::Int32:
+    case CKvGroupValueType::Int64:
+        return std::to_string(tag.integer());
+    case CKvGroupValueType::Real:
+        return realToText(tag.real());
+    case CKvGroupValueType::Bytes: {
+        constexpr char kDigits[] = "0123456789ABCDEF";
+        std::string hex;
+        for (const char c : tag.value.substr(tag.value.empty() ? 0 : 1)) {
+            const auto byte = static_cast<unsigned char>(c);
+            hex.push_back(kDigits[byte >> 4]);
+            hex.push_back(kDigits[byte & 15]);
+        }
+        return hex;
+    }
+    case CKvGroupValueType::Text:
+    case CKvGroupValueType::Handle:
+        break;
+    }
+    return std::string(tag.value);
+}
+
+void appendTagCopy(std::string &bytes, const CKvTagStyle &style, const CKvTag &tag)
+{
+    appendTag(bytes, style, tag.code, asciiValue(tag));
 }
 
 std::string realToText(double number)

@@ -25,6 +25,8 @@ void insertTag(
 /// alone.
 void replaceTagValue(std::string &bytes, const CKvTag &tag, std::string_view value);
 void removeTag(std::string &bytes, const CKvTag &tag);
+/// The value of a tag as an ASCII file has it, whatever the form.
+std::string asciiValue(const CKvTag &tag);
 /// Appends a tag of other bytes, spelled anew.
 void appendTagCopy(std::string &bytes, const CKvTagStyle &style, const CKvTag &tag);
 
