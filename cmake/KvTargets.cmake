@@ -11,8 +11,8 @@ set(KV_MODULE_LAYERS
     plugins_linestyle plugins_textstyle plugins_dimstyle manager_gathering dialogs manager commands
     KvStandards)
 set(KV_STANDALONE_LAYERS
-    standalone_dxf standalone_drawing standalone_kernel standalone_widgets standalone_batch
-    standalone_desktop)
+    standalone_dxf standalone_drawing standalone_picture standalone_kernel standalone_widgets
+    standalone_batch standalone_desktop)
 
 function(kv_require_direction NAME)
   list(FIND KV_MODULE_LAYERS ${NAME} MODULE_AT)

@@ -1,0 +1,13 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "CKvPicture.h"
+#include "OdDbDatabase.h"
+
+#include <QStringList>
+
+/// The complete picture of a drawing.
+CKvPicture pictureOf(const OdDbDatabasePtr &drawing);
+/// What a block of a picture holds, a line for each thing: its kind, its places rounded to two
+/// digits, and its layer.
+QStringList pictureText(const CKvPicture &picture, std::size_t block = 0);
