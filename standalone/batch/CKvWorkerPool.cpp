@@ -3,6 +3,8 @@
 
 #include "CKvWorker.h"
 
+#include <QTimer>
+
 CKvWorkerPool::CKvWorkerPool(const CKvJobSettings &settings, int workers, double timeoutSeconds)
 {
     for (int i = 0; i < workers; ++i) {
@@ -14,37 +16,44 @@ CKvWorkerPool::~CKvWorkerPool() = default;
 
 void CKvWorkerPool::run(const std::vector<CKvDrawingJob> &jobs, const Deliver &deliver)
 {
-    m_next = 0;
-    m_done = 0;
-    // From within the loop: a process that can't be started reports before start returns.
-    const auto startAll = [&] {
-        for (const auto &worker : m_workers) {
-            startNext(*worker, jobs, deliver);
-        }
-    };
-    QMetaObject::invokeMethod(&m_loop, startAll, Qt::QueuedConnection);
-    if (!jobs.empty()) {
-        m_loop.exec();
-    }
-}
-
-void CKvWorkerPool::startNext(CKvWorker &worker,
-                              const std::vector<CKvDrawingJob> &jobs,
-                              const Deliver &deliver)
-{
-    if (m_next == jobs.size()) {
+    if (jobs.empty()) {
         return;
     }
-    const std::size_t index = m_next++;
-    worker.start(jobs[index], [&, index](const CKvDrawingReport &report) {
-        deliver(index, report);
-        ++m_done;
-        if (m_done == jobs.size()) {
-            m_loop.quit();
+    m_next = 0;
+    m_done = 0;
+    m_idle.clear();
+    for (const auto &worker : m_workers) {
+        m_idle.push_back(worker.get());
+    }
+    // Workers start from within the loop: a process that can't be started reports before start
+    // returns, and failures one after the other must not nest.
+    QTimer wake;
+    wake.setSingleShot(true);
+    QObject::connect(&wake, &QTimer::timeout, [&] { startIdle(jobs, deliver, wake); });
+    wake.start(0);
+    m_loop.exec();
+}
+
+void CKvWorkerPool::startIdle(const std::vector<CKvDrawingJob> &jobs,
+                              const Deliver &deliver,
+                              QTimer &wake)
+{
+    std::vector<CKvWorker *> idle;
+    idle.swap(m_idle);
+    for (CKvWorker *worker : idle) {
+        if (m_next == jobs.size()) {
             return;
         }
-        // The next job waits for the event loop, so that failures one after the other don't nest.
-        const auto startAnother = [&] { startNext(worker, jobs, deliver); };
-        QMetaObject::invokeMethod(&m_loop, startAnother, Qt::QueuedConnection);
-    });
+        const std::size_t index = m_next++;
+        worker->start(jobs[index], [&, worker, index](const CKvDrawingReport &report) {
+            deliver(index, report);
+            ++m_done;
+            if (m_done == jobs.size()) {
+                m_loop.quit();
+                return;
+            }
+            m_idle.push_back(worker);
+            wake.start(0);
+        });
+    }
 }

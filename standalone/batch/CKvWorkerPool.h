@@ -10,6 +10,7 @@
 #include <vector>
 
 class CKvWorker;
+class QTimer;
 
 /// Spreads the drawings of a run over worker processes. Needs an application object.
 class CKvWorkerPool
@@ -29,10 +30,10 @@ public:
     void run(const std::vector<CKvDrawingJob> &jobs, const Deliver &deliver);
 
 private:
-    void
-    startNext(CKvWorker &worker, const std::vector<CKvDrawingJob> &jobs, const Deliver &deliver);
+    void startIdle(const std::vector<CKvDrawingJob> &jobs, const Deliver &deliver, QTimer &wake);
 
     std::vector<std::unique_ptr<CKvWorker>> m_workers;
+    std::vector<CKvWorker *> m_idle;
     QEventLoop m_loop;
     std::size_t m_next = 0;
     std::size_t m_done = 0;
