@@ -48,17 +48,27 @@ void CKvStandardsFiles::addListed(const CKvString &stored,
         m_storedPreferred = stored;
         return;
     }
-    const QFileInfo listed(path.toQString());
-    if (listed.exists()) {
-        add(path.toQString());
-        return;
-    }
-    const CKvString found = services.findFile(CKvString(listed.fileName()), 0, &database, 0);
-    if (!found.isEmpty() && QFileInfo::exists(found.toQString())) {
-        add(found.toQString());
-    } else {
+    const CKvString found = find(path, database, services);
+    if (found.isEmpty()) {
         m_missing.push_back(stored);
+    } else {
+        add(found.toQString());
     }
+}
+
+CKvString CKvStandardsFiles::find(const CKvString &listed,
+                                  OdDbDatabase &database,
+                                  CKvSystemServices &services)
+{
+    CKvString path = listed;
+    path.replace(QLatin1Char('\\'), QLatin1Char('/'));
+    const QFileInfo file(path.toQString());
+    if (file.exists()) {
+        return path;
+    }
+    const CKvString found = services.findFile(CKvString(file.fileName()), 0, &database, 0);
+    const bool isThere = !found.isEmpty() && QFileInfo::exists(found.toQString());
+    return isThere ? found : CKvString();
 }
 
 void CKvStandardsFiles::putPreferredFirst(CKvSystemServices &services)

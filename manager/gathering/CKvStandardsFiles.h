@@ -20,6 +20,13 @@ public:
     void load(OdDbDatabase &database, CKvSystemServices &services);
     void clear();
 
+    /// Where a file of the list is: at its path as it stands, else where the host's search finds
+    /// its bare name.
+    /// @param listed with forward or backward slashes.
+    /// @return with forward slashes, empty when it is nowhere.
+    static CKvString
+    find(const CKvString &listed, OdDbDatabase &database, CKvSystemServices &services);
+
     const std::vector<CKvString> &paths() const { return m_paths; }
     /// The bare file names.
     const std::vector<CKvString> &names() const { return m_names; }

@@ -77,14 +77,11 @@ void addFile(OdDbDatabase &drawing, const QString &file)
     }
 }
 
-/// Where the desktop would find the file that the drawing stores.
+/// Absolute; empty for nowhere.
 QString foundPath(const CKvString &stored, OdDbDatabase &drawing, CKvSystemServices &services)
 {
-    const QFileInfo listed(withForwardSlashes(stored));
-    if (listed.exists()) {
-        return absolutePath(listed.filePath());
-    }
-    return services.findFile(CKvString(listed.fileName()), 0, &drawing, 0).toQString();
+    const CKvString found = CKvStandardsFiles::find(stored, drawing, services);
+    return found.isEmpty() ? QString() : absolutePath(found.toQString());
 }
 
 QString listText(const std::vector<ListedFile> &files)

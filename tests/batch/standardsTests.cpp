@@ -202,6 +202,19 @@ TEST_F(BatchStandards, ARelativeStoredPathCountsFromTheWorkingDirectoryFirst)
     EXPECT_EQ(standards(check({})), "read /std.dws\n");
 }
 
+TEST_F(BatchStandards, AListedPathCountsOncePerSpelling)
+{
+    saveStandards(QStringLiteral("blue.dxf"), 5);
+    saveDrawing({ path(QStringLiteral("blue.dxf")),
+                  path(QStringLiteral("blue.dxf")),
+                  path(QStringLiteral("./blue.dxf")) });
+
+    const CKvBatchRun result = check({});
+
+    EXPECT_EQ(standards(result), "read /blue.dxf\nread /blue.dxf\n");
+    EXPECT_EQ(firstDrawing(result).at("violations").at(0).at("candidates"), 6);
+}
+
 TEST_F(BatchStandards, ADamagedListMakesTheDrawingFail)
 {
     CKvDrawingBuilder drawing = redWalls();

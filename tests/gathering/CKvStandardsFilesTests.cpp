@@ -249,3 +249,18 @@ TEST_F(StandardsFiles, LoadingAgainDropsWhatWasThere)
 
     EXPECT_EQ(loaded({ b }), line(b));
 }
+
+TEST_F(StandardsFiles, AFileIsFoundAtItsPathElseByItsNameElseNowhere)
+{
+    const QString there = file("std/there.dws");
+    const QString beside = file("plans/beside.dws");
+    CKvDrawingBuilder().saveTo(path("plans/drawing.dxf"));
+    const OdDbDatabasePtr database = CKvDrawingFile::open(path("plans/drawing.dxf"));
+    const auto found = [&](const QString &listed) {
+        return CKvStandardsFiles::find(CKvString(listed), *database, services).toQString();
+    };
+
+    EXPECT_EQ(found(QString(there).replace(QLatin1Char('/'), QLatin1Char('\\'))), there);
+    EXPECT_EQ(found(QStringLiteral("C:\\std\\beside.dws")), beside);
+    EXPECT_EQ(found(QStringLiteral("C:\\std\\there.dws")), QString());
+}
