@@ -3,6 +3,7 @@
 # are the same for all.
 
 option(KV_WERROR "Treat warnings as errors" ON)
+set(KV_TEST_OPTIONS "" CACHE STRING "Compiler options of the tests alone, behind those of the build type")
 
 # The folders from the ground up. A target links only what stands before it, and nothing of the module
 # links the stand-in host.
@@ -97,5 +98,6 @@ endfunction()
 function(kv_add_tests)
   cmake_parse_arguments(ARG "" "NAME" "SOURCES;DEPENDS" ${ARGN})
   kv_add_program(NAME ${ARG_NAME} SOURCES ${ARG_SOURCES} DEPENDS ${ARG_DEPENDS} GTest::gmock GTest::gtest_main)
+  target_compile_options(${ARG_NAME} PRIVATE ${KV_TEST_OPTIONS})
   gtest_discover_tests(${ARG_NAME} DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 300)
 endfunction()
