@@ -45,3 +45,18 @@ OdCmColor CKvStdsProperty::toColor(const OdResBufPtr &value)
 {
     return value ? value->getColor() : OdCmColor();
 }
+
+std::int32_t CKvStdsProperty::toInteger(const OdResBufPtr &value)
+{
+    return value ? value->getInt32() : 0;
+}
+
+double CKvStdsProperty::toReal(const OdResBufPtr &value)
+{
+    return value ? value->getDouble() : 0;
+}
+
+bool CKvStdsProperty::toFlag(const OdResBufPtr &value)
+{
+    return value && value->getBool();
+}

@@ -22,6 +22,11 @@ struct CKvStdsProperty {
     static CKvString toText(const OdResBufPtr &value);
     /// The colour of a buffer; by layer for none.
     static OdCmColor toColor(const OdResBufPtr &value);
+    /// The number of a buffer; 0 for none.
+    static std::int32_t toInteger(const OdResBufPtr &value);
+    static double toReal(const OdResBufPtr &value);
+    /// The flag of a buffer; false for none.
+    static bool toFlag(const OdResBufPtr &value);
 
     /// Translated; also the key in the violation and the fix.
     CKvString name;

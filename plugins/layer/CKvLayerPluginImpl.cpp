@@ -6,6 +6,7 @@
 #include "CKvStdsLayerRecord.h"
 #include "foldCase.h"
 #include "lineweightNames.h"
+#include "newPluginClass.h"
 
 #include "OdDbLayerTableRecord.h"
 #include "OdDbLinetypeTableRecord.h"
@@ -15,11 +16,6 @@ namespace
 {
 
 OdRxClass *s_class = nullptr;
-
-OdRxObjectPtr newPlugin()
-{
-    return OdRxObjectPtr(new CKvLayerPluginImpl, kOdRxObjAttach);
-}
 
 const CKvStdsLayerRecord &asLayer(const CKvStdsRecord &record)
 {
@@ -35,16 +31,7 @@ OdRxClass *CKvLayerPluginImpl::desc()
 
 void CKvLayerPluginImpl::rxInit()
 {
-    s_class = newOdRxClass(OdString("CKvLayerPluginImpl"),
-                           CKvStdsPlugins::desc(),
-                           &newPlugin,
-                           0,
-                           0,
-                           0,
-                           OdString::kEmpty,
-                           OdString::kEmpty,
-                           nullptr,
-                           0);
+    s_class = newPluginClass<CKvLayerPluginImpl>("CKvLayerPluginImpl");
 }
 
 void CKvLayerPluginImpl::rxUninit()

@@ -1,26 +1,22 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "CKvStandardsSource.h"
 #include "CKvStdsError.h"
 #include "CKvStdsFix.h"
 #include "OdCmColor.h"
 #include "OdDbLayerTable.h"
 #include "OdDbLayerTableRecord.h"
 
-#include <functional>
-
 /// One repair of a layer: changes it, renames it, or merges it into another one.
 class CKvLayerRepair
 {
 public:
-    /// @return the database of a standards file, null when it can't be read.
-    using DatabaseSource = std::function<OdDbDatabasePtr(const CKvString &path)>;
-
     /// @param drawing, error, fix never null.
     CKvLayerRepair(OdDbDatabasePtr drawing,
                    CKvStdsErrorPtr error,
                    const CKvStdsFixPtr &fix,
-                   DatabaseSource standardsDatabase);
+                   CKvStandardsSource standardsDatabase);
 
     /// Does nothing when the fix names no layer, or when its line style is in no file that can be
     /// read.
@@ -40,7 +36,7 @@ private:
 
     OdDbDatabasePtr m_drawing;
     CKvStdsErrorPtr m_error;
-    DatabaseSource m_standardsDatabase;
+    CKvStandardsSource m_standardsDatabase;
     OdCmColor m_color;
     OdDb::LineWeight m_lineWeight = OdDb::kLineWeightByDefault;
     /// False for the empty fix of a violation without recommendation.

@@ -3,12 +3,14 @@
 
 #include "CKvContractClasses.h"
 #include "CKvDrawingBuilder.h"
+#include "CKvDrawingFile.h"
 #include "CKvFakeServices.h"
 #include "auditText.h"
+#include "drawingText.h"
 
 #include <gtest/gtest.h>
 
-/// A drawing, the standards file "/office.dxf", and a plug-in.
+/// A drawing, the standards file "/office.dxf", and the plug-in of a category.
 template <class Plugin> class CKvPluginTest : public testing::Test
 {
 protected:
@@ -26,7 +28,20 @@ protected:
         return violationsText(m_violations);
     }
     /// Audits the drawing as it is now, after repairs.
-    std::string reportAgain() { return violationsText(auditAgain()); }
+    std::string reportAgain()
+    {
+        m_violations = audit(m_plugin, m_database, { QStringLiteral("/office.dxf") });
+        return violationsText(m_violations);
+    }
+    /// Audits objects of one table alone, as the drawing is now.
+    std::string restricted(OdDbObjectId tableId, std::initializer_list<const char *> names)
+    {
+        OdDbObjectIdArray ids;
+        for (const char *name : names) {
+            ids.append(recordId(tableId, name));
+        }
+        return violationsText(audit(m_plugin, m_database, { QStringLiteral("/office.dxf") }, ids));
+    }
     /// The violation of that object in the last report.
     CKvStdsViolation violationOf(const char *name) const
     {
@@ -62,6 +77,24 @@ protected:
         m_plugin.applyFix(violation.error, fixOf(violation, fixName), message);
         EXPECT_EQ(message, CKvString());
     }
+    /// Lines that a save would change: "- old" and "+ new", for files of the same number of lines.
+    std::string changedLines() const
+    {
+        const QList<QByteArray> before = m_drawing.toBytes().split('\n');
+        const QList<QByteArray> after = CKvDrawingFile::toBytes(*m_database).split('\n');
+        if (before.size() != after.size()) {
+            return "another number of lines\n";
+        }
+        std::string text;
+        for (int i = 0; i < before.size(); ++i) {
+            if (before.at(i) != after.at(i)) {
+                text +=
+                    "- " + before.at(i).toStdString() + "\n+ " + after.at(i).toStdString() + '\n';
+            }
+        }
+        return text;
+    }
+
     CKvContractClasses m_classes;
     CKvFakeServices m_services;
     CKvDrawingBuilder m_drawing;
@@ -69,11 +102,4 @@ protected:
     OdDbDatabasePtr m_database;
     Plugin m_plugin;
     std::vector<CKvStdsViolation> m_violations;
-
-private:
-    std::vector<CKvStdsViolation> auditAgain()
-    {
-        m_violations = audit(m_plugin, m_database, { QStringLiteral("/office.dxf") });
-        return m_violations;
-    }
 };

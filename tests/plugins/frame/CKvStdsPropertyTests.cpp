@@ -39,3 +39,16 @@ TEST(StdsProperty, NoBufferReadsAsNothing)
     EXPECT_EQ(CKvStdsProperty::toText(OdResBufPtr()), CKvString());
     EXPECT_EQ(CKvStdsProperty::toColor(OdResBufPtr()), OdCmColor());
 }
+
+TEST(StdsProperty, NumbersAndFlagsAreReadBack)
+{
+    const CKvString name("N");
+
+    EXPECT_EQ(CKvStdsProperty::toInteger(CKvStdsProperty::integer(name, -7).value), -7);
+    EXPECT_EQ(CKvStdsProperty::toReal(CKvStdsProperty::real(name, 2.5).value), 2.5);
+    EXPECT_TRUE(CKvStdsProperty::toFlag(CKvStdsProperty::flag(name, true).value));
+    EXPECT_FALSE(CKvStdsProperty::toFlag(CKvStdsProperty::flag(name, false).value));
+    EXPECT_EQ(CKvStdsProperty::toInteger(OdResBufPtr()), 0);
+    EXPECT_EQ(CKvStdsProperty::toReal(OdResBufPtr()), 0);
+    EXPECT_FALSE(CKvStdsProperty::toFlag(OdResBufPtr()));
+}

@@ -3,7 +3,6 @@
 
 #include "CKvLayerPluginImpl.h"
 #include "CKvPluginTest.h"
-#include "drawingText.h"
 
 /// A drawing, the standards file "/office.dxf", and the layer plug-in.
 class CKvLayerTest : public CKvPluginTest<CKvLayerPluginImpl>

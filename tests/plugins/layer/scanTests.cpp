@@ -9,11 +9,7 @@ class LayerScan : public CKvLayerTest
 protected:
     std::string restricted(std::initializer_list<const char *> names)
     {
-        OdDbObjectIdArray ids;
-        for (const char *name : names) {
-            ids.append(layerId(name));
-        }
-        return violationsText(audit(m_plugin, m_database, { QStringLiteral("/office.dxf") }, ids));
+        return CKvLayerTest::restricted(m_database->getLayerTableId(), names);
     }
 };
 

@@ -1,46 +1,13 @@
 // SPDX-License-Identifier: MIT
+#include "CKvContextTranslator.h"
 #include "CKvLayerTest.h"
 #include "lineweightNames.h"
-
-#include <QCoreApplication>
-#include <QTranslator>
-
-#include <optional>
 
 namespace
 {
 
-/// Translates every text by putting its context in front of it.
-class CKvContextTranslator : public QTranslator
+class LayerTranslation : public CKvTranslatedTest<CKvLayerTest>
 {
-public:
-    bool isEmpty() const override { return false; }
-    QString translate(const char *context,
-                      const char *sourceText,
-                      const char *disambiguation,
-                      int count) const override
-    {
-        EXPECT_EQ(disambiguation, nullptr);
-        EXPECT_EQ(count, -1);
-        return QStringLiteral("<%1>").arg(QLatin1String(context)) + QLatin1String(sourceText);
-    }
-};
-
-class LayerTranslation : public CKvLayerTest
-{
-protected:
-    void translate()
-    {
-        m_translator.emplace();
-        QCoreApplication::installTranslator(&*m_translator);
-    }
-    void TearDown() override { m_translator.reset(); }
-
-    int m_argumentCount = 1;
-    char m_program[8] = "program";
-    char *m_arguments[2] = { m_program, nullptr };
-    QCoreApplication m_application { m_argumentCount, m_arguments };
-    std::optional<CKvContextTranslator> m_translator;
 };
 
 } // namespace
