@@ -68,9 +68,11 @@ public:
     CKvStdsFixPtr recommendedFix(CKvStdsErrorPtr error) override;
     void releaseError(CKvStdsErrorPtr &error) override;
 
-private:
+protected:
+    /// Writes the call down, and throws when it is the one that shall fail.
     void note(const std::string &call) const;
 
+private:
     std::string m_name;
     std::vector<std::string> &m_calls;
     QStringList m_types = { QStringLiteral("LAYER") };
