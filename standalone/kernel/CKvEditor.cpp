@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+#include "CKvEditor.h"
+
+#include "CKvCommandStack.h"
+#include "CKvEditorReactor.h"
+
+#include <algorithm>
+
+namespace
+{
+
+/// Null for a reactor of another kind.
+CKvEditorReactor *ownKind(OdEditorReactor *reactor)
+{
+    const bool isOwn = reactor && reactor->isKindOf(CKvEditorReactor::desc());
+    return isOwn ? static_cast<CKvEditorReactor *>(reactor) : nullptr;
+}
+
+} // namespace
+
+void CKvEditor::addReactor(OdEditorReactor *reactor)
+{
+    if (!reactor || std::find(m_reactors.begin(), m_reactors.end(), reactor) != m_reactors.end()) {
+        return;
+    }
+    m_reactors.push_back(reactor);
+    m_stack.addReactor(ownKind(reactor));
+}
+
+void CKvEditor::removeReactor(OdEditorReactor *reactor)
+{
+    m_stack.removeReactor(ownKind(reactor));
+    m_reactors.erase(std::remove(m_reactors.begin(), m_reactors.end(), reactor), m_reactors.end());
+}
+
+void CKvEditor::tellLisp(const std::function<void(OdEdLispEngineReactor &)> &action)
+{
+    const std::vector<OdEditorReactor *> reactors = m_reactors;
+    for (OdEditorReactor *reactor : reactors) {
+        const bool isHere =
+            std::find(m_reactors.begin(), m_reactors.end(), reactor) != m_reactors.end();
+        if (CKvEditorReactor *own = isHere ? ownKind(reactor) : nullptr) {
+            action(*own);
+        }
+    }
+}

@@ -1,0 +1,122 @@
+// SPDX-License-Identifier: MIT
+#include "CKvHostDocument.h"
+
+#include "CKvDatabaseReactor.h"
+#include "CKvDrawingFile.h"
+#include "CKvDrawingLoader.h"
+#include "CKvDrawingStore.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+/// Notes that the drawing was changed.
+class CKvHostDocument::ChangeWatch : public OdStaticRxObject<CKvDatabaseReactor>
+{
+public:
+    explicit ChangeWatch(CKvHostDocument &document)
+        : m_document(document)
+    {
+        m_document.m_database->addReactor(this);
+    }
+    ~ChangeWatch() override { m_document.m_database->removeReactor(this); }
+
+    void objectAppended(const OdDbDatabase *, const OdDbObject *) override { note(); }
+    void objectModified(const OdDbDatabase *, const OdDbObject *) override { note(); }
+    void objectErased(const OdDbDatabase *, const OdDbObject *, bool) override { note(); }
+
+private:
+    void note() { m_document.m_isModified = true; }
+
+    CKvHostDocument &m_document;
+};
+
+CKvHostDocument::CKvHostDocument(CKvDatabasePtr database)
+    : m_database(std::move(database))
+    , m_context(new CKvHostCommandContext(this), kOdRxObjAttach)
+    , m_selection(std::make_unique<CKvDocumentSelection>())
+    , m_watch(std::make_unique<ChangeWatch>(*this))
+{
+}
+
+CKvHostDocument::~CKvHostDocument()
+{
+    m_context->forgetDocument();
+}
+
+std::unique_ptr<CKvHostDocument> CKvHostDocument::open(const QString &path)
+{
+    CKvDrawingLoader loader(CKvFileImage::open(path, CKvFileImage::Holding::Copied));
+    const CKvDatabasePtr database(new CKvDatabase(loader.load()), kOdRxObjAttach);
+    std::unique_ptr<CKvHostDocument> document(new CKvHostDocument(database));
+    document->takeFile(path);
+    return document;
+}
+
+std::unique_ptr<CKvHostDocument> CKvHostDocument::fromTemplate(const QString &path,
+                                                               const QString &title)
+{
+    const CKvFileImagePtr file = CKvFileImage::open(path, CKvFileImage::Holding::Copied);
+    // A copy without a name, so that nobody takes the template for the drawing's file.
+    const QByteArray bytes(file->bytes().data(), int(file->bytes().size()));
+    CKvDrawingLoader loader(CKvFileImage::fromBytes(bytes, QString()));
+    const CKvDatabasePtr database(new CKvDatabase(loader.load()), kOdRxObjAttach);
+    std::unique_ptr<CKvHostDocument> document(new CKvHostDocument(database));
+    document->m_title = title;
+    return document;
+}
+
+QString CKvHostDocument::title() const
+{
+    return m_path.isEmpty() ? m_title : QFileInfo(m_path).fileName();
+}
+
+QString CKvHostDocument::lockPathOf(const QString &path)
+{
+    const QFileInfo file(path);
+    return QString(file.absolutePath() + QLatin1String("/.") + file.fileName()
+                   + QLatin1String(".lock"));
+}
+
+void CKvHostDocument::takeFile(const QString &path)
+{
+    const QFileInfo file(path);
+    const QString newPath = QDir::cleanPath(file.absoluteFilePath());
+    if (newPath != m_path || !m_lock || !m_lock->isLocked()) {
+        m_lock = std::make_unique<QLockFile>(lockPathOf(newPath));
+        // A crashed program's lock is its process's; only the living count.
+        m_lock->setStaleLockTime(0);
+        m_lock->tryLock(0);
+    }
+    m_path = newPath;
+    m_fileTime = file.lastModified();
+    m_fileSize = file.size();
+}
+
+CKvHostDocument::Hindrance CKvHostDocument::hindranceTo(const QString &path) const
+{
+    const QFileInfo file(path);
+    const QString target = QDir::cleanPath(file.absoluteFilePath());
+    if (!file.exists()) {
+        return Hindrance::None;
+    }
+    if (target != m_path) {
+        QLockFile lock(lockPathOf(target));
+        lock.setStaleLockTime(0);
+        return !lock.tryLock(0) && lock.error() == QLockFile::LockFailedError
+            ? Hindrance::OpenElsewhere
+            : Hindrance::None;
+    }
+    if (m_lock && !m_lock->isLocked() && m_lock->error() == QLockFile::LockFailedError) {
+        return Hindrance::OpenElsewhere;
+    }
+    return file.lastModified() == m_fileTime && file.size() == m_fileSize
+        ? Hindrance::None
+        : Hindrance::ChangedOnDisk;
+}
+
+void CKvHostDocument::saveAs(const QString &path)
+{
+    CKvDrawingFile::save(*m_database, path);
+    takeFile(path);
+    m_isModified = false;
+}

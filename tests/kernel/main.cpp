@@ -1,0 +1,12 @@
+// SPDX-License-Identifier: MIT
+#include <QCoreApplication>
+
+#include <gtest/gtest.h>
+
+int main(int argc, char **argv)
+{
+    testing::InitGoogleTest(&argc, argv);
+    // Posted commands wait for timers.
+    const QCoreApplication application(argc, argv);
+    return RUN_ALL_TESTS();
+}
