@@ -200,6 +200,8 @@ void CKvVerifyStandards::endPass()
             tr("There are no standards files associated with the current drawing."));
     }
     m_ui->NextIssueButton->setEnabled(true);
+    // What had the focus is off or was; Enter begins the next walk.
+    m_ui->NextIssueButton->setFocus();
 }
 
 /// The repaired entries leave the list before the summary is seen, but after they were counted.

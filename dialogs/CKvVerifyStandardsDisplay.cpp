@@ -6,6 +6,7 @@
 #include "formatPropertyValue.h"
 #include "ui_CKvVerifyStandards.h"
 
+#include <QDir>
 #include <QFileInfo>
 #include <QIcon>
 #include <QSignalBlocker>
@@ -33,6 +34,14 @@ void setHeader(QTableWidget &table, int column, const QString &text)
     QTableWidgetItem *header = table.horizontalHeaderItem(column);
     header->setText(text);
     header->setToolTip(text);
+}
+
+/// @param tooltip what doesn't fit into the cell.
+QTableWidgetItem *newItem(const QString &text, const QString &tooltip)
+{
+    auto *item = new QTableWidgetItem(text);
+    item->setToolTip(tooltip);
+    return item;
 }
 
 const CKvString &nameAt(const std::vector<CKvString> &names, unsigned index)
@@ -149,9 +158,11 @@ void CKvVerifyStandards::fillFixTable()
             mark->setIcon(QIcon(QStringLiteral(":/images/style/checkmark.png")));
         }
         table->setItem(row, kFixMark, mark);
-        table->setItem(row, kFixName, new QTableWidgetItem(fix->name().toQString()));
-        const QFileInfo file(fix->standardsFile().toQString());
-        table->setItem(row, kFixFile, new QTableWidgetItem(file.fileName()));
+        const QString name = fix->name().toQString();
+        table->setItem(row, kFixName, newItem(name, name));
+        const QString path = fix->standardsFile().toQString();
+        table->setItem(
+            row, kFixFile, newItem(QFileInfo(path).fileName(), QDir::toNativeSeparators(path)));
     }
     if (entry.recommendedFix >= 0) {
         table->selectRow(entry.recommendedFix);
@@ -200,7 +211,7 @@ void CKvVerifyStandards::fillPreview(std::int32_t row)
             formatPropertyValue(standardValue).toQString()
         };
         for (int column = 0; column < kPreviewColumnCount; ++column) {
-            table->setItem(int(i), column, new QTableWidgetItem(texts[column]));
+            table->setItem(int(i), column, newItem(texts[column], texts[column]));
         }
     }
 }

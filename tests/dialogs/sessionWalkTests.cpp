@@ -176,6 +176,21 @@ TEST(SessionWalk, BetweenWalksNextIsOnAndFixAndTheDisplayAreOff)
     EXPECT_FALSE(bench.widget<QAbstractButton>("IgnoreViolationCheckBox").isChecked());
 }
 
+TEST(SessionWalk, EnterBeginsTheNextWalk)
+{
+    CKvVerifyBench bench({ QStringLiteral("A") });
+    bench.show();
+    bench.click("FixIssueButton");
+    const std::string betweenWalks = bench.shown();
+
+    QTest::keyClick(bench.dialog().focusWidget(), Qt::Key_Return);
+    CKvVerifyBench::settle();
+
+    EXPECT_EQ(betweenWalks, "");
+    EXPECT_THAT(bench.host().requests(), IsEmpty());
+    EXPECT_THAT(bench.summaries(), ElementsAre("1, 0, 1, 0", "0, 0, 0, 0"));
+}
+
 TEST(SessionWalk, AnEntryWithoutAnErrorIsBlankAndCantBeFixedOrIgnored)
 {
     CKvVerifyBench bench(kThree);

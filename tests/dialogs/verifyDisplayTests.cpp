@@ -3,6 +3,7 @@
 #include "CKvVerifyBench.h"
 
 #include <QCheckBox>
+#include <QDir>
 #include <QLabel>
 #include <QTableWidget>
 
@@ -194,6 +195,20 @@ TEST(VerifyDisplay, NamesFromTheDrawingAreNoMarkup)
         EXPECT_EQ(bench.widget<QLabel>(name).textFormat(), Qt::PlainText) << name;
     }
     EXPECT_EQ(bench.shown(), "<b>WALLS</b>");
+}
+
+TEST(VerifyDisplay, TooltipsTellWhatDoesNotFitIntoTheCells)
+{
+    CKvVerifyBench bench(kTwo);
+
+    bench.show();
+
+    const QTableWidget &fixes = bench.table("ReplaceWithTableWidget");
+    EXPECT_EQ(fixes.item(1, 1)->toolTip(), QStringLiteral("OTHER"));
+    EXPECT_EQ(fixes.item(1, 2)->toolTip(),
+              QDir::toNativeSeparators(QStringLiteral("/std/second.dxf")));
+    EXPECT_EQ(bench.table("PreviewChangesTableWidget").item(0, 0)->toolTip(),
+              QStringLiteral("Name"));
 }
 
 TEST(VerifyDisplay, TheLabelsOfTheTablesNameThemForScreenReaders)
