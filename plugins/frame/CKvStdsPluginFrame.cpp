@@ -81,6 +81,11 @@ CKvString CKvStdsPluginFrame::propertyMessage() const
             .arg(messageWord().toQString(), 0, QChar(u' ')));
 }
 
+CKvStdsPropertyList CKvStdsPluginFrame::valuesOf(const OdDbSymbolTableRecordPtr &record) const
+{
+    return properties(*readRecord(record));
+}
+
 CKvStdsViolationKind CKvStdsPluginFrame::violationKind(const CKvStdsErrorPtr &error) const
 {
     if (!error) {

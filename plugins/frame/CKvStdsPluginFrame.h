@@ -68,6 +68,9 @@ public:
     /// "%1 name is non-standard." and "%1 properties are non-standard." with the category's word.
     CKvString nameMessage() const;
     CKvString propertyMessage() const;
+    /// The values of a record, as a violation of it would hold them.
+    /// @param record of the category, open.
+    CKvStdsPropertyList valuesOf(const OdDbSymbolTableRecordPtr &record) const;
 
 protected:
     // Texts and identity.

@@ -2,6 +2,7 @@
 #include "CKvCategory.h"
 
 #include "CKvLayerPluginImpl.h"
+#include "CKvLineStylePluginImpl.h"
 #include "CKvUsageError.h"
 
 #include <QStringList>
@@ -26,7 +27,12 @@ constexpr std::array<CKvCategory, 4> kCategories = { {
       &CKvLayerPluginImpl::rxInit,
       &CKvLayerPluginImpl::rxUninit,
       &OdDbDatabase::getLayerTableId },
-    { "linestyles", "line style", nullptr, nullptr, nullptr, &OdDbDatabase::getLinetypeTableId },
+    { "linestyles",
+      "line style",
+      &CKvLineStylePluginImpl::desc,
+      &CKvLineStylePluginImpl::rxInit,
+      &CKvLineStylePluginImpl::rxUninit,
+      &OdDbDatabase::getLinetypeTableId },
     { "textstyles", "text style", nullptr, nullptr, nullptr, &OdDbDatabase::getTextStyleTableId },
 } };
 

@@ -2,7 +2,7 @@
 #include "commandShow.h"
 
 #include "CKvBatchSession.h"
-#include "CKvLayerListing.h"
+#include "CKvRecordListing.h"
 #include "CKvTextTable.h"
 #include "displayWidth.h"
 #include "reportJson.h"
@@ -12,65 +12,129 @@
 namespace
 {
 
-QString remarks(const CKvLayerListing &layer)
+/// The records of one category.
+struct CKvSection {
+    const CKvCategory *category;
+    std::vector<CKvRecordListing> records;
+};
+
+/// More columns than these are a block of lines for each record.
+constexpr std::size_t kColumnsOfATable = 12;
+
+QString remarks(const CKvRecordListing &record)
 {
     QStringList words;
-    if (layer.isHidden) {
+    if (record.isHidden) {
         words << QStringLiteral("hidden");
     }
-    if (layer.isDependent) {
+    if (record.isShapeFile) {
+        words << QStringLiteral("shape file");
+    }
+    if (record.isDependent) {
         words << QStringLiteral("external reference");
     }
-    if (layer.isIgnored) {
-        words << (layer.ignoredBy.isEmpty() ? QStringLiteral("ignored")
-                                            : QStringLiteral("ignored by %1").arg(layer.ignoredBy));
+    if (record.isIgnored) {
+        words << (record.ignoredBy.isEmpty()
+                      ? QStringLiteral("ignored")
+                      : QStringLiteral("ignored by %1").arg(record.ignoredBy));
     }
     return words.join(QStringLiteral(", "));
 }
 
-QString layersText(const std::vector<CKvLayerListing> &layers, bool isColored)
+/// "Line style"
+QString heading(const CKvCategory &category)
+{
+    QString noun = QString::fromLatin1(category.noun);
+    noun[0] = noun[0].toUpper();
+    return noun;
+}
+
+/// A row for each record, with a column for each of its values.
+QString tableText(const CKvSection &section, bool isColored)
 {
     const CKvTextStyle bold = CKvTextStyle::Bold;
     CKvTextTable table;
-    table.add({ { QStringLiteral("Layer"), bold },
-                { QStringLiteral("LineColor"), bold },
-                { QStringLiteral("LineStyle"), bold },
-                { QStringLiteral("LineWeight"), bold },
-                { QString() } });
-    for (const CKvLayerListing &layer : layers) {
-        table.add({ { printable(layer.name) },
-                    { printable(layer.color) },
-                    { printable(layer.lineStyle) },
-                    { layer.lineWeight },
-                    { printable(remarks(layer)), CKvTextStyle::Faint } });
+    CKvTextTable::Row head { { heading(*section.category), bold } };
+    if (!section.records.empty()) {
+        for (const auto &[name, value] : section.records.front().properties) {
+            head.push_back({ name, bold });
+        }
+    }
+    head.push_back({ QString() });
+    table.add(head);
+    for (const CKvRecordListing &record : section.records) {
+        CKvTextTable::Row row { { printable(record.name) } };
+        for (const auto &[name, value] : record.properties) {
+            row.push_back({ printable(value) });
+        }
+        row.push_back({ printable(remarks(record)), CKvTextStyle::Faint });
+        table.add(row);
     }
     return table.toText(0, isColored);
 }
 
-nlohmann::ordered_json layerJson(const CKvLayerListing &layer)
+/// The name of each record, and its values below it.
+QString blocksText(const CKvSection &section, bool isColored)
 {
-    return { { "name", layer.name.toStdString() },
-             { "handle", layer.handle.toStdString() },
-             { "properties",
-               { { "LineColor", layer.color.toStdString() },
-                 { "LineStyle", layer.lineStyle.toStdString() },
-                 { "LineWeight", layer.lineWeight.toStdString() } } },
-             { "hidden", layer.isHidden },
-             { "externalReference", layer.isDependent },
-             { "ignored", layer.isIgnored },
-             { "ignoredBy", layer.ignoredBy.toStdString() } };
+    QString text = styled(heading(*section.category), CKvTextStyle::Bold, isColored);
+    text += QLatin1Char('\n');
+    for (const CKvRecordListing &record : section.records) {
+        CKvTextTable title;
+        title.add(
+            { { printable(record.name) }, { printable(remarks(record)), CKvTextStyle::Faint } });
+        text += title.toText(0, isColored);
+        CKvTextTable values;
+        for (const auto &[name, value] : record.properties) {
+            values.add({ { name }, { printable(value) } });
+        }
+        text += values.toText(2, isColored);
+    }
+    return text;
 }
 
-QString layersJson(const QString &drawing, const std::vector<CKvLayerListing> &layers)
+QString sectionsText(const std::vector<CKvSection> &sections, bool isColored)
 {
-    nlohmann::ordered_json list = nlohmann::ordered_json::array();
-    for (const CKvLayerListing &layer : layers) {
-        list.push_back(layerJson(layer));
+    QStringList texts;
+    for (const CKvSection &section : sections) {
+        const bool isTable = section.records.empty()
+            || section.records.front().properties.size() <= kColumnsOfATable;
+        texts << (isTable ? tableText(section, isColored) : blocksText(section, isColored));
     }
-    const nlohmann::ordered_json json = { { "schema", 1 },
-                                          { "tool", toolJson() },
-                                          { "path", drawing.toStdString() },
-                                          { "layers", std::move(list) } };
+    return texts.join(QLatin1Char('\n'));
+}
+
+nlohmann::ordered_json recordJson(const CKvCategory &category, const CKvRecordListing &record)
+{
+    nlohmann::ordered_json properties = nlohmann::ordered_json::object();
+    for (const auto &[name, value] : record.properties) {
+        properties[name.toStdString()] = value.toStdString();
+    }
+    nlohmann::ordered_json json = { { "name", record.name.toStdString() },
+                                    { "handle", record.handle.toStdString() },
+                                    { "properties", std::move(properties) } };
+    if (category.word == std::string_view("layers")) {
+        json["hidden"] = record.isHidden;
+    } else if (category.word == std::string_view("textstyles")) {
+        json["shapeFile"] = record.isShapeFile;
+    }
+    json["externalReference"] = record.isDependent;
+    json["ignored"] = record.isIgnored;
+    json["ignoredBy"] = record.ignoredBy.toStdString();
+    return json;
+}
+
+QString sectionsJson(const QString &drawing, const std::vector<CKvSection> &sections)
+{
+    nlohmann::ordered_json json = { { "schema", 1 },
+                                    { "tool", toolJson() },
+                                    { "path", drawing.toStdString() } };
+    for (const CKvSection &section : sections) {
+        nlohmann::ordered_json list = nlohmann::ordered_json::array();
+        for (const CKvRecordListing &record : section.records) {
+            list.push_back(recordJson(*section.category, record));
+        }
+        json[section.category->word] = std::move(list);
+    }
     return QString::fromUtf8(jsonText(json, 2)) + QLatin1Char('\n');
 }
 
@@ -81,14 +145,17 @@ CKvExitStatus commandShow(const CKvDrawingOptions &options)
     CKvCheckOptions check;
     check.categories = options.categories;
     const CKvBatchSession session(check);
-    std::vector<CKvLayerListing> layers;
-    const bool isDone = workOnDrawing(
-        options.drawing, [&layers](OdDbDatabase &drawing) { layers = listLayers(drawing); });
+    std::vector<CKvSection> sections;
+    const bool isDone = workOnDrawing(options.drawing, [&](OdDbDatabase &drawing) {
+        for (const CKvBatchSession::Check &each : session.checks()) {
+            sections.push_back({ each.category, listRecords(drawing, each) });
+        }
+    });
     if (!isDone) {
         return CKvExitStatus::Incomplete;
     }
     const bool isPrinted = printOutput(options.format == CKvReportFormat::Json
-                                           ? layersJson(options.drawing, layers)
-                                           : layersText(layers, wantsColor(options.color)));
+                                           ? sectionsJson(options.drawing, sections)
+                                           : sectionsText(sections, wantsColor(options.color)));
     return isPrinted ? CKvExitStatus::Clean : CKvExitStatus::Incomplete;
 }

@@ -330,7 +330,8 @@ TEST_F(BatchFix, ACleanDrawingHasNoDiff)
 TEST_F(BatchFix, ALineStyleThatTheDrawingLacksComesFromTheLineStyleFiles)
 {
     CKvDrawingBuilder standards;
-    standards.lineStyle("DASHED").dashes({ 1, -1 });
+    // As in the file for metric drawings.
+    standards.lineStyle("DASHED").dashes({ 12.7, -6.35 });
     standards.layer("WALLS").lineStyle("DASHED");
     save(QStringLiteral("std.dxf"), standards);
     CKvDrawingBuilder drawing;

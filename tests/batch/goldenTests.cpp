@@ -42,14 +42,18 @@ std::string testName(const ::testing::TestParamInfo<std::string> &info)
     return name;
 }
 
-/// Each case is checked and, with what fixed.expected.dxf says, repaired: the drawing stays as it
-/// is where there is no such file.
+/// Each case is checked for the category that its folder stands for and, with what
+/// fixed.expected.dxf says, repaired: the drawing stays as it is where there is no such file.
 class Golden : public CKvBatchTest, public ::testing::WithParamInterface<std::string>
 {
 protected:
     QDir caseFolder() const
     {
         return QDir(QStringLiteral(KV_GOLDEN_FOLDER "/") + QString::fromStdString(GetParam()));
+    }
+    static QString category()
+    {
+        return QString::fromStdString(GetParam()).section(QLatin1Char('/'), 0, 0);
     }
     QByteArray reference(const QString &name) const
     {
@@ -89,11 +93,11 @@ TEST_P(Golden, IsCheckedAndRepairedAsExpected)
     for (const QString &name : caseFolder().entryList(QDir::Files)) {
         write(name, reference(name));
     }
-    const QStringList options = { QStringLiteral("drawing.dxf"),
-                                  QStringLiteral("-s"),
-                                  QStringLiteral("standards.dxf"),
-                                  QStringLiteral("-f"),
-                                  QStringLiteral("json") };
+    const QStringList options = {
+        QStringLiteral("drawing.dxf"), QStringLiteral("-s"), QStringLiteral("standards.dxf"),
+        QStringLiteral("--only"),      category(),           QStringLiteral("-f"),
+        QStringLiteral("json")
+    };
     QStringList fix =
         QStringList { QStringLiteral("fix"), QStringLiteral("-o"), QStringLiteral("fixed") }
         + options;

@@ -27,7 +27,7 @@ protected:
 
 TEST_F(BatchShow, ListsTheLayersWithTheirValues)
 {
-    const CKvBatchRun result = show({});
+    const CKvBatchRun result = show({ QStringLiteral("--only"), QStringLiteral("layers") });
 
     EXPECT_EQ(result.status, 0);
     EXPECT_EQ(result.output,
@@ -65,9 +65,37 @@ TEST_F(BatchShow, ADrawingThatCannotBeReadEndsWith3)
     EXPECT_NE(result.errors, "");
 }
 
-TEST_F(BatchShow, ADrawingWithoutLayersHasTheHeadingOnly)
+TEST_F(BatchShow, ListsEachCategoryUnderItsHeading)
+{
+    const CKvBatchRun result =
+        show({ QStringLiteral("--only"), QStringLiteral("linestyles,layers") });
+
+    EXPECT_EQ(result.output,
+              "Layer       LineColor  LineStyle   LineWeight\n"
+              "WALLS       red        DASHED      0.25 mm\n"
+              "壁          1,2,3      Continuous  Default     ignored by anna\n"
+              "*ADSK       white      Continuous  7           hidden\n"
+              "XREF|DOORS  white      Continuous  Default     external reference\n"
+              "\n"
+              "Line style  Dashes  Pattern Length\n"
+              "DASHED      2       2.0000\n");
+}
+
+TEST_F(BatchShow, JsonHasAListForEachCategory)
+{
+    const auto report = json(show({ QStringLiteral("-f"), QStringLiteral("json") }));
+
+    EXPECT_EQ(report.at("layers").size(), 4U);
+    EXPECT_EQ(report.at("linestyles").dump(),
+              R"([{"name":"DASHED","handle":"11","properties":{"Dashes":"2",)"
+              R"("Pattern Length":"2.0000"},"externalReference":false,"ignored":false,)"
+              R"("ignoredBy":""}])");
+}
+
+TEST_F(BatchShow, ACategoryWithoutRecordsHasItsHeadingOnly)
 {
     save(QStringLiteral("a.dxf"), CKvDrawingBuilder());
 
-    EXPECT_EQ(show({}).output, "Layer  LineColor  LineStyle  LineWeight\n");
+    EXPECT_EQ(show({ QStringLiteral("--only"), QStringLiteral("layers,linestyles") }).output,
+              "Layer\n\nLine style\n");
 }

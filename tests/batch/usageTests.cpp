@@ -86,8 +86,8 @@ TEST_F(BatchUsage, ACategoryThatThisVersionCannotCheckIsWrongUsageThatSaysSo)
 {
     save(QStringLiteral("a.dxf"), cleanDrawing());
 
-    expectWrong(words("check a.dxf --only layers,linestyles"),
-                "This version can't check linestyles yet.");
+    expectWrong(words("check a.dxf --only layers,dimstyles"),
+                "This version can't check dimstyles yet.");
     expectWrong(words("fix a.dxf --dry-run --only textstyles"),
                 "This version can't check textstyles yet.");
     expectWrong(words("ignore a.dxf dimstyles Standard"),
