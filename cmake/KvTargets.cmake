@@ -85,6 +85,20 @@ function(kv_add_library)
   target_link_libraries(${ARG_NAME} ${REACH} ${ARG_DEPENDS})
 endfunction()
 
+# kv_add_module(NAME <target> SOURCES <...> EXPORTS <map> [HEADERS <...>] [DEPENDS <...>])
+# What a host loads at run time. It exports what the map lists; what it needs of the host it finds in
+# the program that loads it.
+function(kv_add_module)
+  cmake_parse_arguments(ARG "" "NAME;EXPORTS" "HEADERS;SOURCES;DEPENDS" ${ARGN})
+  kv_require_direction(${ARG_NAME} ${ARG_DEPENDS})
+  add_library(${ARG_NAME} MODULE ${ARG_SOURCES} ${ARG_HEADERS})
+  kv_set_compile_rules(${ARG_NAME})
+  set(MAP ${CMAKE_CURRENT_SOURCE_DIR}/${ARG_EXPORTS})
+  set_target_properties(${ARG_NAME} PROPERTIES PREFIX "" LINK_DEPENDS ${MAP})
+  target_link_options(${ARG_NAME} PRIVATE -Wl,--version-script=${MAP})
+  target_link_libraries(${ARG_NAME} PRIVATE ${ARG_DEPENDS})
+endfunction()
+
 # kv_add_program(NAME <target> SOURCES <...> [HEADERS <...>] [DEPENDS <...>])
 function(kv_add_program)
   cmake_parse_arguments(ARG "" "NAME" "HEADERS;SOURCES;DEPENDS" ${ARGN})

@@ -67,6 +67,9 @@ public:
     bool fixAutomatically() const override { return false; }
     bool showIgnored() const override { return false; }
 
+protected:
+    void note(const std::string &call) { m_calls.push_back(call); }
+
 private:
     CKvSystemServices *m_before;
     std::map<QString, QByteArray> m_drawings;
