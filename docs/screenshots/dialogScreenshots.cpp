@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Writes a picture of each dialog, light and dark, into the folder that is given.
 #include "CKvContractClasses.h"
-#include "CKvFakeDocument.h"
 #include "CKvGatheringPass.h"
 #include "CKvLayerPluginImpl.h"
 #include "CKvMissingStandardsFileDlg.h"
@@ -10,6 +9,7 @@
 #include "CKvStandaloneServices.h"
 #include "CKvStandardViolationMessage.h"
 #include "CKvStandardsFiles.h"
+#include "CKvTestDocument.h"
 #include "CKvVerfiyCompleteMessage.h"
 #include "CKvVerifyStandards.h"
 #include "OdStaticRxObject.h"
@@ -87,13 +87,8 @@ void CKvScreenshots::take(QWidget &window, const char *name)
 /// The ground floor of the samples against its office standard.
 void CKvScreenshots::takeVerification()
 {
-    const QString path = QStringLiteral(KV_SAMPLES_FOLDER "/floor-plan.dxf");
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        m_isComplete = false;
-        return;
-    }
-    const CKvFakeDocument document(file.readAll(), path);
+    const CKvTestDocument document({ QStringLiteral(KV_SAMPLES_FOLDER "/floor-plan.dxf"),
+                                     QStringLiteral(KV_SAMPLES_FOLDER "/office-standard.dxf") });
     CKvStandardsFiles files;
     files.load(*document.GetKvDatabase(), *GetKvSystemServices());
     OdStaticRxObject<CKvLayerPluginImpl> plugin;

@@ -3,9 +3,9 @@
 
 #include "CKvContractClasses.h"
 #include "CKvDialogHost.h"
-#include "CKvFakeDocument.h"
 #include "CKvModalScript.h"
 #include "CKvScriptedPlugin.h"
+#include "CKvTestDocument.h"
 #include "CKvVerifyStandards.h"
 
 #include <QStringList>
@@ -38,7 +38,7 @@ public:
     CKvDialogHost &host() { return m_host; }
     CKvModalScript &script() { return m_script; }
     CKvScriptedPlugin &plugin() { return m_plugin; }
-    CKvFakeDocument &document() { return m_document; }
+    CKvTestDocument &document() { return m_document; }
     /// Before it is shown.
     CKvStdsViolation &violation(unsigned index) { return m_violations[index]; }
     void setCandidates(unsigned index, const QStringList &names, int recommended);
@@ -86,7 +86,7 @@ public:
 private:
     CKvContractClasses m_classes;
     CKvDialogHost m_host;
-    CKvFakeDocument m_document;
+    CKvTestDocument m_document;
     CKvModalScript m_script;
     std::vector<std::string> m_calls;
     CKvScriptedPlugin m_plugin;

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "CKvContractClasses.h"
 #include "CKvDrawingFile.h"
-#include "CKvFakeDocument.h"
 #include "CKvGatheringPass.h"
 #include "CKvLayerPluginImpl.h"
 #include "CKvStandaloneServices.h"
 #include "CKvStandardsFiles.h"
+#include "CKvTestDocument.h"
 #include "CKvUtilsBase.h"
 #include "CKvVerifyStandards.h"
 #include "OdStaticRxObject.h"
@@ -46,7 +46,8 @@ protected:
     CKvContractClasses m_classes;
     CKvStandaloneServices m_services;
     QByteArray m_bytes = readSample("floor-plan.dxf");
-    CKvFakeDocument m_document { m_bytes, samplePath("floor-plan.dxf") };
+    CKvTestDocument m_document { { samplePath("floor-plan.dxf"),
+                                   samplePath("office-standard.dxf") } };
     OdStaticRxObject<CKvLayerPluginImpl> m_plugin;
     CKvVerifyStandards m_dialog { nullptr };
 
@@ -164,8 +165,8 @@ TEST_F(LayerSession, WhatWasRepairedAndIgnoredIsFoundSoInTheSavedDrawing)
     click("FixIssueButton");
     click("FixIssueButton");
     click("IgnoreViolationCheckBox");
-    const OdDbDatabasePtr saved = CKvDrawingFile::fromBytes(CKvDrawingFile::toBytes(*drawing()),
-                                                            samplePath("floor-plan.dxf"));
+    const OdDbDatabasePtr saved =
+        CKvDrawingFile::fromBytes(CKvDrawingFile::toBytes(*drawing()), m_document.path());
 
     const std::string user = CKvUtilsBase::getUserName().toQString().toStdString();
     EXPECT_EQ(before,
