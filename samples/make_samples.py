@@ -28,7 +28,8 @@ import ezdxf  # noqa: E402
 ezdxf.options.use_matplotlib = False
 ezdxf.options.write_fixed_meta_data_for_testing = True
 
-from recipes import flange, floor_plan, layers, site_plan, standards  # noqa: E402
+from recipes import dimension_styles, flange, floor_plan, layers, line_styles  # noqa: E402
+from recipes import site_plan, standards, text_styles  # noqa: E402
 from recipes.common import write  # noqa: E402
 
 DRAWINGS = {
@@ -40,6 +41,12 @@ DRAWINGS = {
     "site-plan.dxf": site_plan.make,
     "layers-good.dxf": layers.good,
     "layers-bad.dxf": layers.bad,
+    "linestyles-good.dxf": line_styles.good,
+    "linestyles-bad.dxf": line_styles.bad,
+    "textstyles-good.dxf": text_styles.good,
+    "textstyles-bad.dxf": text_styles.bad,
+    "dimstyles-good.dxf": dimension_styles.good,
+    "dimstyles-bad.dxf": dimension_styles.bad,
 }
 
 

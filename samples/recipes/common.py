@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""What the recipes share: new drawings, layers, standards lists, stamps, blocks, writing."""
+"""What the recipes share: new drawings, layers, standards lists, stamps, shapes, writing."""
 
 import io
 import re
@@ -7,24 +7,13 @@ from collections import namedtuple
 
 import ezdxf
 
+from .styles import add_line_styles
+
 # Flags of a block that comes from another file.
 XREF_FLAGS = 4 | 32
 
 # Group 70 of a layer of another file that was found when the drawing was last opened.
 XREF_LAYER_FLAGS = 16 | 32
-
-# The line styles of the samples in millimetres, as lengths of dashes, gaps (negative) and dots (0).
-LINE_STYLES = {
-    "CENTER": ("Center ____ _ ____ _ ____ _ ____", [31.75, -6.35, 6.35, -6.35]),
-    "CENTER2": ("Center (.5x) ___ _ ___ _ ___ _ ___", [19.05, -3.175, 3.175, -3.175]),
-    "DASHED": ("Dashed __ __ __ __ __ __ __ __", [12.7, -6.35]),
-    "DASHED2": ("Dashed (.5x) _ _ _ _ _ _ _ _ _", [6.35, -3.175]),
-    "HIDDEN": ("Hidden __ __ __ __ __ __ __ __", [6.35, -3.175]),
-    "PHANTOM": (
-        "Phantom ______  __  __  ______",
-        [31.75, -6.35, 6.35, -6.35, 6.35, -6.35],
-    ),
-}
 
 # A layer as a standard or a drawing has it. The lineweight is in hundredths of a millimetre.
 Layer = namedtuple("Layer", "name color line_style lineweight", defaults=(7, "Continuous", -3))
@@ -38,11 +27,9 @@ def new_drawing(version, line_styles=(), encoding=None):
     doc.header["$INSUNITS"] = 4
     doc.header["$MEASUREMENT"] = 1
     doc.layers.remove("Defpoints")
-    for name in line_styles:
-        description, pattern = LINE_STYLES[name]
-        # Rounded, so that no digits of binary fractions show in the file.
-        length = round(sum(abs(part) for part in pattern), 6)
-        doc.linetypes.add(name, [length] + pattern, description=description)
+    # Drawings before R2007 have no group for it, which means 1.0.
+    doc.dimstyles.get("Standard").dxf.dimfxl = 1.0
+    add_line_styles(doc, line_styles)
     return doc
 
 
@@ -73,30 +60,11 @@ def set_standards(doc, paths):
         standards.add_xrecord(str(index)).reset([(1, path)])
 
 
-def ignore(doc, layer_name, user):
-    """Stamps the violation of a layer as ignored by a user."""
-    extension = doc.layers.get(layer_name).new_extension_dict()
+def ignore(record, user):
+    """Stamps the violation of a layer or a style as ignored by a user."""
+    extension = record.new_extension_dict()
     stamp = extension.dictionary.add_new_dict("AcStStandard", hard_owned=True)
     stamp.add_xrecord("AcStFlags").reset([(300, user), (90, 1)])
-
-
-def add_dimension_style(doc, name, text_style, scale=1.0, text_height=2.5):
-    """A metric style with the text above the line."""
-    style = doc.dimstyles.new(name)
-    style.dxf.dimscale = scale
-    style.dxf.dimtxt = text_height
-    style.dxf.dimasz = 2.5
-    style.dxf.dimexo = 1.0
-    style.dxf.dimexe = 1.25
-    style.dxf.dimgap = 0.75
-    style.dxf.dimtad = 1
-    style.dxf.dimtih = 0
-    style.dxf.dimtoh = 0
-    style.dxf.dimdec = 0
-    style.dxf.dimzin = 8
-    style.dxf.dimdsep = ord(".")
-    style.dxf.dimtxsty = text_style
-    return style
 
 
 def rectangle(space, corner, size, layer, **attributes):

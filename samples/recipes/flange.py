@@ -5,13 +5,14 @@ from math import cos, radians, sin
 
 from .common import (
     Layer,
-    add_dimension_style,
     add_layers,
+    ignore,
     new_drawing,
     rectangle,
     set_standards,
     text,
 )
+from .styles import TextStyle, add_dimension_style, add_line_style, add_text_styles
 
 FRONT = (110.0, 170.0)
 SECTION_X = 250.0
@@ -147,19 +148,47 @@ def draw_annotation(space):
             **style,
         ).render()
     space.add_diameter_dim(FRONT, radius=BOLT_CIRCLE_RADIUS, angle=45, **style).render()
+    toleranced = {**style, "dimstyle": "ISO-TOL"}
+    reach = SECTION_X + HUB_WIDTH + 50
+    space.add_linear_dim(
+        (reach, y), (SECTION_X, y - 25), (SECTION_X, y + 62), angle=90, **toleranced
+    ).render()
+    fitted = {**style, "dimstyle": "FITS"}
+    space.add_linear_dim(
+        (FRONT[0], y - FLANGE_RADIUS - 12), on_front(25, 180), on_front(25, 0), **fitted
+    ).render()
     text(space, "6 x M12", on_front(BOLT_CIRCLE_RADIUS + 26, 62), 3.5, "TEXT", "ISO")
 
     rectangle(space, (10, 10), (400, 277), "TITLE BLOCK")
     rectangle(space, (230, 10), (180, 40), "TITLE BLOCK")
-    text(space, "Flange with hub", (236, 34), 5, "TEXT", "ISO")
+    text(space, "Flange with hub", (236, 34), 5, "TEXT", "TITLE")
     text(space, "S235JR   1:1   drawing 4711-02", (236, 20), 3.5, "TEXT", "ISO")
 
 
+def make_styles(doc):
+    # Came from a drawing in inches.
+    add_line_style(doc, "PHANTOM", "PHANTOM", scale=1 / 25.4)
+    add_text_styles(
+        doc,
+        [
+            TextStyle("ISO", "isocp.shx", width=0.8),
+            TextStyle("TITLE", "arial.ttf", oblique=15, face="Arial", is_italic=True),
+        ],
+    )
+    values = {"dimasz": 3.0, "dimdsep": ord(",")}
+    add_dimension_style(doc, "ISO-25", "ISO", **values)
+    # What differs for diameters; not a style of its own.
+    add_dimension_style(doc, "ISO-25$3", "ISO", **values, dimtix=1)
+    tolerance = {"dimtol": 1, "dimtp": 0.1, "dimtm": 0.2, "dimtdec": 1}
+    arrows = {"dimsah": 1, "dimblk1": "DOTSMALL", "dimblk2": "OBLIQUE"}
+    add_dimension_style(doc, "ISO-TOL", "ISO", **tolerance, **arrows)
+    add_dimension_style(doc, "FITS", "ISO", dimtxt=1.8, dimpost="<> H7")
+
+
 def make():
-    doc = new_drawing("R2018", ["CENTER2", "DASHED", "PHANTOM"])
+    doc = new_drawing("R2018", ["CENTER2", "DASHED"])
+    make_styles(doc)
     add_layers(doc, LAYERS)
-    doc.styles.add("ISO", font="isocp.shx", dxfattribs={"width": 0.8})
-    add_dimension_style(doc, "ISO-25", "ISO")
     make_blocks(doc)
 
     space = doc.modelspace()
@@ -168,4 +197,5 @@ def make():
     draw_annotation(space)
 
     set_standards(doc, ["mechanical-standard.dxf"])
+    ignore(doc.dimstyles.get("FITS"), "k.lindner")
     return doc

@@ -3,7 +3,6 @@
 
 from .common import (
     Layer,
-    add_dimension_style,
     add_layers,
     add_xref,
     ignore,
@@ -12,6 +11,7 @@ from .common import (
     set_standards,
     text,
 )
+from .styles import TextStyle, add_dimension_style, add_line_style, add_text_styles
 
 OUTER = 365
 INNER = 115
@@ -35,6 +35,14 @@ LAYERS = [
     Layer("Layer1"),
     Layer("A-DEMO", 1, "DASHED2", 25),
     Layer("DEFPOINTS"),
+]
+
+TEXT_STYLES = [
+    TextStyle("NOTES", "arial.ttf", face="Arial"),
+    # Titles were bold once.
+    TextStyle("TITLES", "arial.ttf", face="Arial"),
+    TextStyle("DIMS", "isocp.shx", width=1.0),
+    TextStyle("HANDWRITING", "handwriting.ttf", face="Handwriting", is_italic=True),
 ]
 
 # Doors as (hinge, degrees the block is turned by, number).
@@ -161,22 +169,45 @@ def draw_annotation(space):
     for low, high in ((0, 5057), (5057, 9000)):
         space.add_linear_dim((-1200, 0), (0, low), (0, high), angle=90, **style).render()
     space.add_linear_dim((-1900, 0), (0, 0), (0, 9000), angle=90, **style).render()
+    # Copied from a plan of last year, with its style.
+    old_style = {**style, "dimstyle": "A-100-OLD"}
+    space.add_linear_dim((0, 9900), (OUTER, 9000), (4885, 9000), **old_style).render()
+    space.add_leader([(3500, 8600), (3900, 10400), (4500, 10400)], **style)
 
     text(space, "All masonry to be checked on site.", (-3300, -4400), 180, "A-ANNO-NOTE", "NOTES")
     text(space, "Door heights 2010 unless noted.", (-3300, -4800), 180, "Layer1", "NOTES")
     rectangle(space, (-3600, -5600), (21000, 17200), "A-ANNO-TTLB")
     rectangle(space, (11400, -5600), (6000, 1800), "A-ANNO-TTLB")
-    text(space, "House at the weir, ground floor", (11600, -4600), 280, "A-ANNO-TTLB", "NOTES")
+    text(space, "existing chimney", (4600, 10330), 180, "A-ANNO-NOTE", "HANDWRITING")
+    text(space, "House at the weir, ground floor", (11600, -4600), 280, "A-ANNO-TTLB", "TITLES")
     text(space, "1:100   sheet A-101", (11600, -5200), 220, "A-ANNO-TTLB", "NOTES")
 
 
+def draw_services(space):
+    space.add_lwpolyline(
+        [(-600, 6500), (900, 6500), (900, 8500)],
+        dxfattribs={"layer": "P-SANR", "linetype": "GAS", "ltscale": 20},
+    )
+    inside = [(OUTER, OUTER), (12000 - OUTER, OUTER)]
+    space.add_lwpolyline(
+        inside, dxfattribs={"layer": "A-WALL-PATT", "linetype": "INSULATION", "ltscale": 20}
+    )
+
+
+def make_styles(doc):
+    add_line_style(doc, "INSULATION", "HIDDEN")
+    add_text_styles(doc, TEXT_STYLES)
+    arrows = {"dimblk": "OBLIQUE", "dimldrblk": "DOT"}
+    add_dimension_style(doc, "A-100", "DIMS", scale=100, dimtxt=2.0, **arrows)
+    add_dimension_style(doc, "A-100-OLD", "NOTES", scale=100, dimtxt=3.5, dimclrd=1)
+
+
 def make():
-    doc = new_drawing("R2010", ["DASHED2"])
+    doc = new_drawing("R2010", ["DASHED2", "GAS"])
     add_layers(doc, LAYERS)
     # A shade of its own on the screen; the index is that of the standard.
     doc.layers.get("A-AREA-IDEN").rgb = (235, 235, 220)
-    doc.styles.add("NOTES", font="arial.ttf")
-    add_dimension_style(doc, "A-100", "NOTES", scale=100, text_height=2.0)
+    make_styles(doc)
     add_xref(doc, "survey", "survey-2019.dxf", [Layer("BOUNDARY", 1, lineweight=70)])
     make_blocks(doc)
 
@@ -185,9 +216,11 @@ def make():
     draw_walls(space)
     draw_openings(space)
     draw_fittings(space)
+    draw_services(space)
     draw_annotation(space)
 
     doc.header["$CLAYER"] = "Layer1"
     set_standards(doc, ["office-standard.dxf"])
-    ignore(doc, "A-DEMO", "h.brandt")
+    ignore(doc.layers.get("A-DEMO"), "h.brandt")
+    ignore(doc.styles.get("HANDWRITING"), "h.brandt")
     return doc

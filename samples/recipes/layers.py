@@ -59,5 +59,5 @@ def bad():
     doc.layers.get("0").dxf.color = 5
     draw_each_layer(doc)
     set_standards(doc, ["office-standard.dxf"])
-    ignore(doc, "A-ANNO-DIMS", "h.brandt")
+    ignore(doc.layers.get("A-ANNO-DIMS"), "h.brandt")
     return doc

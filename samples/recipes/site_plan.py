@@ -5,13 +5,19 @@ from math import cos, radians, sin
 
 from .common import (
     Layer,
-    add_dimension_style,
     add_layers,
     ignore,
     new_drawing,
     rectangle,
     set_standards,
     text,
+)
+from .styles import (
+    TextStyle,
+    add_dimension_style,
+    add_line_style,
+    add_text_styles,
+    set_extended_data,
 )
 
 LAYERS = [
@@ -56,6 +62,10 @@ def make_blocks(doc):
 
 def draw_ground(space):
     space.add_lwpolyline(BOUNDARY, close=True, dxfattribs={"layer": "敷地境界"})
+    space.add_lwpolyline(
+        [(-8000, -2500), (-2000, -2700), (-1500, 28000)],
+        dxfattribs={"layer": "道路", "linetype": "境界", "ltscale": 100},
+    )
     space.add_line((-8000, -2500), (52000, -4600), dxfattribs={"layer": "道路"})
     space.add_line((-8000, -8500), (52000, -10600), dxfattribs={"layer": "道路"})
     space.add_line((-8000, -5500), (52000, -7600), dxfattribs={"layer": "道路中心線"})
@@ -106,17 +116,31 @@ def draw_annotation(space):
     space.add_blockref("ベンチマーク", (-3500, -1200), dxfattribs={"layer": "ｂｍ"})
     text(space, "KBM=42.000", (-3000, -900), 600, "ｂｍ", "注記")
     rectangle(space, (-14000, -18000), (74000, 58000), "A-ANNO-TTLB")
-    text(space, "配置図 1:250", (40000, -15500), 1500, "A-ANNO-TTLB", "注記")
+    text(space, "配置図 1:250", (40000, -15500), 1500, "A-ANNO-TTLB", "題名")
+
+
+def make_styles(doc):
+    add_line_style(doc, "境界", "DASHED")
+    add_text_styles(
+        doc,
+        [
+            # As the machines of the office wrote Japanese before they had TrueType.
+            TextStyle("注記", "romans.shx", big_font="extfont2.shx"),
+            TextStyle("題名", "msgothic.ttc", face="MS Gothic", is_bold=True),
+        ],
+    )
+    style = add_dimension_style(doc, "S-250", "注記", scale=250, dimblk="DOT", dimclrt=1)
+    # A drawing of this version has no group for the background of the text.
+    set_extended_data(style, "ACAD_DSTYLE_DIMTEXT_FILL", [(1070, 376), (1070, 1)])
 
 
 def make():
     doc = new_drawing("R2000", ["DASHED", "PHANTOM"], encoding="cp932")
     doc.line_end = "\r\n"
+    make_styles(doc)
     add_layers(doc, LAYERS)
     doc.layers.get("既存建物").off()
     doc.layers.get("既存建物").lock()
-    doc.styles.add("注記", font="msgothic.ttc")
-    add_dimension_style(doc, "S-250", "注記", scale=250)
     make_blocks(doc)
 
     space = doc.modelspace()
@@ -125,5 +149,6 @@ def make():
     draw_annotation(space)
 
     set_standards(doc, ["site-standard.dxf", "office-standard.dxf"])
-    ignore(doc, "ソーラー表示", "山田")
+    ignore(doc.layers.get("ソーラー表示"), "山田")
+    ignore(doc.styles.get("題名"), "山田")
     return doc

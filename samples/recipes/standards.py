@@ -1,7 +1,8 @@
 # SPDX-License-Identifier: MIT
 """The standards files: drawings without content whose records others are compared with."""
 
-from .common import Layer, add_dimension_style, add_layers, new_drawing
+from .common import Layer, add_layers, new_drawing
+from .styles import TextStyle, add_dimension_style, add_text_styles, make_annotative
 
 OFFICE_LAYERS = [
     Layer("A-WALL", 2, "Continuous", 50),
@@ -54,12 +55,24 @@ SITE_LAYERS = [
 ]
 
 
+OFFICE_TEXT_STYLES = [
+    TextStyle("NOTES", "arial.ttf", face="Arial"),
+    TextStyle("TITLES", "arialbd.ttf", face="Arial", is_bold=True),
+    TextStyle("DIMS", "isocp.shx", width=0.8),
+    TextStyle("LABELS", "arial.ttf", face="Arial"),
+]
+
+
 def office():
     """The standard of an architect's office."""
-    doc = new_drawing("R2018", ["CENTER", "DASHED"])
+    doc = new_drawing("R2018", ["CENTER", "DASHED", "GAS", "INSULATION"])
     add_layers(doc, OFFICE_LAYERS)
-    doc.styles.add("NOTES", font="arial.ttf")
-    add_dimension_style(doc, "A-100", "NOTES", scale=100)
+    add_text_styles(doc, OFFICE_TEXT_STYLES)
+    make_annotative(doc.styles.get("LABELS"), matches_sheet=True)
+    arrows = {"dimblk": "ARCHTICK", "dimldrblk": "DOT"}
+    add_dimension_style(doc, "A-100", "DIMS", scale=100, **arrows)
+    add_dimension_style(doc, "A-50", "DIMS", scale=50, **arrows)
+    make_annotative(add_dimension_style(doc, "A-ANNO", "DIMS", **arrows))
     return doc
 
 
@@ -67,15 +80,27 @@ def mechanical():
     """The standard of a workshop that makes parts."""
     doc = new_drawing("R2000", ["CENTER", "HIDDEN", "PHANTOM"])
     add_layers(doc, MECHANICAL_LAYERS)
-    doc.styles.add("ISO", font="isocp.shx")
+    add_text_styles(doc, [TextStyle("ISO", "isocp.shx"), TextStyle("TITLE", "isocp3.shx", oblique=15)])
     add_dimension_style(doc, "ISO-25", "ISO")
+    add_dimension_style(
+        doc,
+        "ISO-TOL",
+        "ISO",
+        dimtol=1,
+        dimtp=0.1,
+        dimtm=0.2,
+        dimtdec=1,
+        dimsah=1,
+        dimblk1="DOTSMALL",
+        dimblk2="OBLIQUE",
+    )
     return doc
 
 
 def site():
     """The standard of a civil engineer in Japan."""
-    doc = new_drawing("R2018", ["CENTER", "DASHED", "PHANTOM"])
+    doc = new_drawing("R2018", ["CENTER", "DASHED", "PHANTOM", "境界"])
     add_layers(doc, SITE_LAYERS)
-    doc.styles.add("注記", font="msgothic.ttc")
-    add_dimension_style(doc, "S-250", "注記", scale=250)
+    add_text_styles(doc, [TextStyle("注記", "msgothic.ttc", face="MS Gothic")])
+    add_dimension_style(doc, "S-250", "注記", scale=250, dimblk="OBLIQUE")
     return doc
