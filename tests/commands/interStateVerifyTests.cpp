@@ -2,7 +2,7 @@
 #include "CKvCommandInterStateVerify.h"
 #include "CKvCommandTest.h"
 #include "OdStaticRxObject.h"
-#include "hostDoubles.h"
+#include "activeDocument.h"
 
 #include <QCoreApplication>
 #include <QDialogButtonBox>

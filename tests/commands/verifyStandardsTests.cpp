@@ -2,7 +2,7 @@
 #include "CKvCommandTest.h"
 #include "CKvCommandVerifyStandards.h"
 #include "OdStaticRxObject.h"
-#include "hostDoubles.h"
+#include "activeDocument.h"
 
 #include <QCheckBox>
 #include <QDialogButtonBox>

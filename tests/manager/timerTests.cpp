@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "CKvManagerTest.h"
-#include "hostDoubles.h"
+#include "activeDocument.h"
 
 #include <QDialog>
 #include <QEventLoop>

@@ -5,7 +5,7 @@
 #include "CKvFileImage.h"
 #include "OdDbLayerTable.h"
 #include "OdDbLayerTableRecord.h"
-#include "hostDoubles.h"
+#include "activeDocument.h"
 
 class CKvSessionDocument::CKvContext : public OdStaticRxObject<CKvCommandContext>
 {
