@@ -259,8 +259,9 @@ private:
 
     void addShow()
     {
-        CLI::App &command = addCommand(
-            "show", "List the layers of a drawing with their values", CKvCommandKind::Show);
+        CLI::App &command = addCommand("show",
+                                       "List the layers and styles of a drawing with their values",
+                                       CKvCommandKind::Show);
         addDrawingOptions(command);
         addCategories(command, m_options.drawing.categories);
         addFormat(command);
