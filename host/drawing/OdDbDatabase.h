@@ -94,6 +94,12 @@ public:
     /// they can be erased. Null ids and what can never be erased leave the array too.
     void purgeIds(OdDbObjectIdArray &ids) const;
 
+    /// The entities of all blocks that may name a record: all that do, and perhaps some that did
+    /// once. In the order in which the walks over all blocks meet them, but without that walk.
+    /// @return empty when the id is that of no layer, line style, text style or dimension style of
+    /// this drawing.
+    OdDbObjectIdArray entitiesNaming(OdDbObjectId recordId) const;
+
     /// @param reactor not owned; added once however often it is given.
     void addReactor(OdDbDatabaseReactor *reactor);
     void removeReactor(OdDbDatabaseReactor *reactor);

@@ -23,6 +23,29 @@ void walkTable(OdDbObjectId tableId,
     }
 }
 
+void walkOwnEntitiesNaming(const OdDbDatabase &drawing,
+                           OdDbObjectId recordId,
+                           const std::function<void(const OdDbEntityPtr &)> &visit)
+{
+    OdDbObjectId lastBlockId;
+    bool isFromElsewhere = false;
+    for (const OdDbObjectId id : drawing.entitiesNaming(recordId)) {
+        const OdDbEntityPtr entity(id.openObject(OdDb::kForWrite));
+        if (!entity) {
+            continue;
+        }
+        const OdDbObjectId blockId = entity->ownerId();
+        if (blockId != lastBlockId) {
+            const OdDbBlockTableRecordPtr block(blockId.openObject(OdDb::kForRead));
+            isFromElsewhere = block && block->isFromExternalReference();
+            lastBlockId = blockId;
+        }
+        if (!isFromElsewhere) {
+            visit(entity);
+        }
+    }
+}
+
 void walkOwnEntities(const OdDbDatabase &drawing,
                      const std::function<void(const OdDbEntityPtr &)> &visit)
 {

@@ -17,3 +17,9 @@ void walkTable(OdDbObjectId tableId,
 /// space, the layouts and every block definition.
 void walkOwnEntities(const OdDbDatabase &drawing,
                      const std::function<void(const OdDbEntityPtr &)> &visit);
+
+/// As walkOwnEntities, but visits only those that may name a record, so that a merge costs what it
+/// moves and not what the drawing is large. Whether an entity does name it is for visit to ask.
+void walkOwnEntitiesNaming(const OdDbDatabase &drawing,
+                           OdDbObjectId recordId,
+                           const std::function<void(const OdDbEntityPtr &)> &visit);

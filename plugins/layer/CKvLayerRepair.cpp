@@ -151,7 +151,7 @@ bool CKvLayerRepair::renameInPlace(const OdDbLayerTablePtr &layers) const
 void CKvLayerRepair::moveEntities(OdDbObjectId targetId) const
 {
     const OdDbObjectId violatingId = m_error->objectId();
-    walkOwnEntities(*m_drawing, [&](const OdDbEntityPtr &entity) {
+    walkOwnEntitiesNaming(*m_drawing, violatingId, [&](const OdDbEntityPtr &entity) {
         if (entity->layerId() == violatingId && entity->isWriteEnabled()) {
             entity->setLayer(targetId, /*doSubents*/ true, /*allowHiddenLayer*/ false);
         }

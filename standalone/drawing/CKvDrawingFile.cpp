@@ -31,9 +31,8 @@ QByteArray CKvDrawingFile::toBytes(const OdDbDatabase &drawing)
 {
     const CKvDrawingWriter writer(drawing.store());
     QByteArray bytes;
-    for (const std::string_view piece : writer.pieces()) {
-        bytes.append(piece.data(), int(piece.size()));
-    }
+    bytes.reserve(int(writer.size()));
+    writer.write([&](std::string_view piece) { bytes.append(piece.data(), int(piece.size())); });
     return bytes;
 }
 
@@ -41,9 +40,7 @@ void CKvDrawingFile::save(const OdDbDatabase &drawing, const QString &path)
 {
     const CKvDrawingWriter writer(drawing.store());
     CKvFileReplacement file(path);
-    for (const std::string_view piece : writer.pieces()) {
-        file.write(piece);
-    }
+    writer.write([&](std::string_view piece) { file.write(piece); });
     file.commit();
 }
 

@@ -129,6 +129,36 @@ void CKvDrawingStore::touch(CKvObjectSlot &slot)
     }
 }
 
+void CKvDrawingStore::noteChange(CKvObjectSlot &slot)
+{
+    touch(slot);
+    using Role = CKvObjectSlot::Role;
+    if (slot.role == Role::Record) {
+        for (const std::unique_ptr<CKvTable> &table : m_tables) {
+            table->forgetLastNames();
+        }
+    } else if (m_entities
+               && (slot.role == Role::Entity || slot.role == Role::SubEntity
+                   || slot.role == Role::BlockEdge)) {
+        m_entities->users().noteChange(slot);
+    }
+}
+
+bool CKvDrawingStore::moveToLayer(CKvObjectSlot &entity, std::string_view encodedName)
+{
+    constexpr std::size_t kMostNames = 0xffff;
+    if (m_movedLayers.size() < 2 || m_movedLayers.back() != encodedName) {
+        if (m_movedLayers.size() > kMostNames) {
+            return false;
+        }
+        m_movedLayers.emplace_back(encodedName);
+    }
+    entity.movedTo = std::uint16_t(m_movedLayers.size() - 1);
+    touch(entity);
+    m_entities->users().noteLayer(entity, encodedName);
+    return true;
+}
+
 void CKvDrawingStore::addObject(CKvObjectSlot &slot)
 {
     m_objects.push_back(&slot);

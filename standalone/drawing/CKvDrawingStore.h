@@ -13,6 +13,8 @@
 #include <array>
 #include <deque>
 #include <memory>
+#include <string>
+#include <string_view>
 #include <unordered_map>
 #include <vector>
 
@@ -37,6 +39,7 @@ public:
     CKvHeaderVariables header() { return CKvHeaderVariables(*m_header); }
     CKvObjectSlot &headerSlot() { return *m_header; }
     CKvTable &table(CKvTableKind kind) { return *m_tables[std::size_t(kind)]; }
+    const CKvTable &table(CKvTableKind kind) const { return *m_tables[std::size_t(kind)]; }
     /// Null in a drawing without dictionaries.
     CKvObjectSlot *rootDictionary() const { return m_rootDictionary; }
     /// The same, made when the file has none; saving writes it only with something in it.
@@ -68,6 +71,16 @@ public:
     void registerHandle(CKvObjectSlot &slot);
     /// Puts a slot into the list of what saving has to look at.
     void touch(CKvObjectSlot &slot);
+    /// As touch, for a slot whose bytes are about to change.
+    void noteChange(CKvObjectSlot &slot);
+    /// Gives an entity whose layer's place is known (CKvObjectSlot::layerAt) another layer.
+    /// @return false when there are too many names for that; the entity is as it was then.
+    bool moveToLayer(CKvObjectSlot &entity, std::string_view encodedName);
+    /// Of an entity that was moved.
+    std::string_view movedLayerName(const CKvObjectSlot &entity) const
+    {
+        return m_movedLayers[entity.movedTo];
+    }
     const std::vector<CKvObjectSlot *> &touched() const { return m_touched; }
     /// False in R12 and older without $HANDLING 1: what stands in group 5 counts for nothing then.
     bool hasHandles() const { return m_hasHandles; }
@@ -104,6 +117,8 @@ private:
     std::unordered_map<std::uint64_t, CKvObjectSlot *> m_byHandle;
     std::unique_ptr<CKvEntityIndex> m_entities;
     std::vector<CKvObjectSlot *> m_touched;
+    /// Names that moved entities have; the first one stands for none.
+    std::deque<std::string> m_movedLayers = { std::string() };
     /// The part of the file that entities() reads.
     std::size_t m_unreadBegin = 0;
     std::size_t m_unreadEnd = 0;

@@ -81,7 +81,7 @@ void CKvDrawingWriter::clearPointersToErased()
     if (erased.empty()) {
         return;
     }
-    forEachSlot(m_store, [&](const CKvObjectSlot &slot) {
+    const auto clear = [&](const CKvObjectSlot &slot) {
         CKvTagReader reader(slot.bytes(), slot.form());
         std::vector<CKvTag> tags;
         while (reader.next()) {
@@ -91,7 +91,7 @@ void CKvDrawingWriter::clearPointersToErased()
                 tags.push_back(reader.tag());
             }
         }
-        if (tags.empty()) {
+        if (tags.empty() || slot.isErased) {
             return;
         }
         std::string bytes(slot.bytes());
@@ -99,7 +99,13 @@ void CKvDrawingWriter::clearPointersToErased()
             replaceTagValue(bytes, *tag, "0");
         }
         m_cleared.emplace(&slot, std::move(bytes));
-    });
+    };
+    forEachUndrawnSlot(m_store, clear);
+    for (const std::uint64_t handle : erased) {
+        for (const CKvObjectSlot *holder : m_store.entities().users().holdersOf(handle)) {
+            clear(*holder);
+        }
+    }
 }
 
 void CKvDrawingWriter::addEdit(const CKvObjectSlot &slot)
@@ -110,10 +116,16 @@ void CKvDrawingWriter::addEdit(const CKvObjectSlot &slot)
         }
         return;
     }
-    const std::string_view inFile =
-        m_store.image()->bytes().substr(slot.begin, slot.end - slot.begin);
+    const std::string_view file = m_store.image()->bytes();
+    const std::string_view inFile = file.substr(slot.begin, slot.end - slot.begin);
     if (slot.isErased) {
         m_edits.push_back({ slot.begin, slot.end, {} });
+    } else if (slot.movedTo != 0) {
+        const std::size_t begin = slot.begin + slot.layerAt;
+        const std::string_view name = m_store.movedLayerName(slot);
+        if (file.substr(begin, slot.layerSize) != name) {
+            m_edits.push_back({ begin, begin + slot.layerSize, name });
+        }
     } else if (slot.role != CKvObjectSlot::Role::TableHead && bytesOf(slot) != inFile) {
         m_edits.push_back({ slot.begin, slot.end, bytesOf(slot) });
     }
@@ -228,16 +240,39 @@ void CKvDrawingWriter::addObjectsSection()
     m_edits.push_back({ m_store.endOfSections(), m_store.endOfSections(), keep(std::move(bytes)) });
 }
 
-std::vector<std::string_view> CKvDrawingWriter::pieces() const
+void CKvDrawingWriter::write(const Sink &sink) const
 {
+    constexpr std::size_t kMostGathered = 1 << 18;
     const std::string_view file = m_store.image()->bytes();
-    std::vector<std::string_view> pieces;
+    std::string gathered;
+    gathered.reserve(kMostGathered);
+    // A merge makes millions of small pieces; each as a call of its own would cost more than it is.
+    const auto put = [&](std::string_view piece) {
+        if (gathered.size() + piece.size() > kMostGathered) {
+            sink(gathered);
+            gathered.clear();
+        }
+        if (piece.size() > kMostGathered) {
+            sink(piece);
+        } else {
+            gathered.append(piece);
+        }
+    };
     std::size_t written = 0;
     for (const Edit &edit : m_edits) {
-        pieces.push_back(file.substr(written, edit.begin - written));
-        pieces.push_back(edit.bytes);
+        put(file.substr(written, edit.begin - written));
+        put(edit.bytes);
         written = edit.end;
     }
-    pieces.push_back(file.substr(written));
-    return pieces;
+    put(file.substr(written));
+    sink(gathered);
+}
+
+std::size_t CKvDrawingWriter::size() const
+{
+    std::size_t size = m_store.image()->bytes().size();
+    for (const Edit &edit : m_edits) {
+        size += edit.bytes.size() - (edit.end - edit.begin);
+    }
+    return size;
 }

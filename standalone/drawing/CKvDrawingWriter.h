@@ -2,6 +2,7 @@
 #pragma once
 
 #include <deque>
+#include <functional>
 #include <map>
 #include <string>
 #include <string_view>
@@ -20,8 +21,12 @@ public:
 
     /// False when the file would be written as it was read.
     bool isChanged() const { return !m_edits.empty(); }
-    /// The file as a sequence of pieces; views into the store and the writer.
-    std::vector<std::string_view> pieces() const;
+    /// Takes the next piece of the file.
+    using Sink = std::function<void(std::string_view)>;
+    /// Gives the file in pieces of a size that is worth a call.
+    void write(const Sink &sink) const;
+    /// Of the file in bytes.
+    std::size_t size() const;
 
 private:
     /// Bytes that take the place of a range of the file; an empty range inserts.

@@ -16,10 +16,24 @@ bool isPartOfEntityBefore(std::string_view type)
     return type == "VERTEX" || type == "SEQEND";
 }
 
+void noteLayerPlace(CKvObjectSlot &slot, const CKvObjectOutline &outline)
+{
+    if (!outline.layer) {
+        return;
+    }
+    const char *const begin = slot.store->image()->bytes().data() + slot.begin;
+    const auto at = std::size_t(outline.layer->data() - begin);
+    if (at <= 0xffff && outline.layer->size() <= 0xff) {
+        slot.layerAt = std::uint16_t(at);
+        slot.layerSize = std::uint8_t(outline.layer->size());
+    }
+}
+
 } // namespace
 
 CKvEntityIndex::CKvEntityIndex(CKvDrawingStore &store)
     : m_store(store)
+    , m_users(store)
 {
 }
 
@@ -47,6 +61,8 @@ CKvObjectSlot &CKvEntityIndex::makeSlot(const CKvObjectOutline &outline)
     slot.end = outline.end;
     slot.handle = outline.handle;
     add(slot);
+    m_users.noteRead(slot, outline);
+    noteLayerPlace(slot, outline);
     return slot;
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "CKvBlockContents.h"
+#include "CKvUserIndex.h"
 
 #include <cstdint>
 #include <unordered_map>
@@ -32,7 +33,10 @@ public:
     /// section.
     std::size_t blocksEnd() const { return m_blocksEnd; }
     std::uint64_t largestHandle() const { return m_largestHandle; }
+    /// Enters a new object.
     void add(CKvObjectSlot &slot);
+    /// Who names a record.
+    CKvUserIndex &users() { return m_users; }
 
 private:
     void readBlocks(CKvSectionReader &reader);
@@ -40,9 +44,10 @@ private:
     CKvObjectSlot &makeSlot(const CKvObjectOutline &outline);
     CKvObjectSlot &blockFor(CKvObjectSlot &begin, const CKvObjectOutline &outline);
     CKvObjectSlot &space(bool isPaper);
-    CKvObjectSlot *m_spaces[2] = {};
 
     CKvDrawingStore &m_store;
+    CKvUserIndex m_users;
+    CKvObjectSlot *m_spaces[2] = {};
     std::unordered_map<const CKvObjectSlot *, CKvBlockContents> m_contents;
     std::vector<CKvObjectSlot *> m_all;
     std::vector<std::pair<std::uint64_t, CKvObjectSlot *>> m_byHandle;

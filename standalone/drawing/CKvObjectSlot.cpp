@@ -5,6 +5,12 @@
 
 std::string_view CKvObjectSlot::bytes() const
 {
+    if (movedTo != 0) {
+        const std::string_view slice = store->image()->bytes().substr(begin, end - begin);
+        own = std::make_unique<std::string>(slice);
+        own->replace(layerAt, layerSize, store->movedLayerName(*this));
+        movedTo = 0;
+    }
     if (own) {
         return *own;
     }
@@ -25,11 +31,12 @@ CKvTagForm CKvObjectSlot::form() const
 
 std::string &CKvObjectSlot::ownBytes()
 {
+    const std::string_view now = bytes();
     if (!own) {
-        own = std::make_unique<std::string>(bytes());
+        own = std::make_unique<std::string>(now);
     }
     if (store && role != Role::StandIn) {
-        store->touch(*this);
+        store->noteChange(*this);
     }
     return *own;
 }

@@ -17,7 +17,7 @@ void CKvTable::add(CKvObjectSlot &record)
     if (!m_index.add(recordName(record), &record)) {
         m_hasDoubleNames = true;
     }
-    m_encodedNames.clear();
+    forgetEncodedNames();
 }
 
 CKvObjectSlot *CKvTable::find(const QString &name)
@@ -28,14 +28,20 @@ CKvObjectSlot *CKvTable::find(const QString &name)
 
 CKvObjectSlot *CKvTable::findEncoded(std::string_view encodedName)
 {
+    if (m_hasLastFound && m_lastEncoded == encodedName) {
+        return m_lastFound;
+    }
     std::string key(encodedName);
     const auto known = m_encodedNames.find(key);
     if (known != m_encodedNames.end()) {
-        return known->second;
+        m_lastFound = known->second;
+    } else {
+        m_lastFound = find(m_store.format().codec.decode(encodedName));
+        m_encodedNames.emplace(std::move(key), m_lastFound);
     }
-    CKvObjectSlot *found = find(m_store.format().codec.decode(encodedName));
-    m_encodedNames.emplace(std::move(key), found);
-    return found;
+    m_lastEncoded = encodedName;
+    m_hasLastFound = true;
+    return m_lastFound;
 }
 
 CKvObjectSlot &CKvTable::findOrStandIn(std::string_view encodedName)
@@ -48,6 +54,22 @@ CKvObjectSlot &CKvTable::findOrStandIn(std::string_view encodedName)
         standIn = makeStandIn(encodedName);
     }
     return *standIn;
+}
+
+const std::string &CKvTable::encodedNameOf(const CKvObjectSlot &record)
+{
+    if (m_lastNamed != &record) {
+        m_lastName = encodedRecordName(record);
+        m_lastNamed = &record;
+    }
+    return m_lastName;
+}
+
+void CKvTable::forgetEncodedNames()
+{
+    m_encodedNames.clear();
+    m_hasLastFound = false;
+    m_lastNamed = nullptr;
 }
 
 CKvObjectSlot *CKvTable::makeStandIn(std::string_view encodedName)
@@ -63,7 +85,7 @@ CKvObjectSlot *CKvTable::makeStandIn(std::string_view encodedName)
 
 void CKvTable::nameChanged(CKvObjectSlot &record, const QString &oldName)
 {
-    m_encodedNames.clear();
+    forgetEncodedNames();
     m_index.remove(oldName, &record);
     if (!m_index.add(recordName(record), &record)) {
         m_hasDoubleNames = true;
@@ -75,7 +97,7 @@ void CKvTable::nameChanged(CKvObjectSlot &record, const QString &oldName)
 
 void CKvTable::erasedChanged(CKvObjectSlot &record)
 {
-    m_encodedNames.clear();
+    forgetEncodedNames();
     if (!record.isErased || m_hasDoubleNames) {
         rebuild();
     } else {

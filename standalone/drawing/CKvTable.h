@@ -46,6 +46,10 @@ public:
     CKvObjectSlot *findEncoded(std::string_view encodedName);
     /// As find, or a stand-in of that spelling.
     CKvObjectSlot &findOrStandIn(std::string_view encodedName);
+    /// A record's name as the file spells it; the last answer is remembered.
+    const std::string &encodedNameOf(const CKvObjectSlot &record);
+    /// To be called when a record is about to change.
+    void forgetLastNames() { m_lastNamed = nullptr; }
 
     /// To be called after a record got another name, was erased or brought back.
     void nameChanged(CKvObjectSlot &record, const QString &oldName);
@@ -53,6 +57,7 @@ public:
 
 private:
     void rebuild();
+    void forgetEncodedNames();
     CKvObjectSlot *makeStandIn(std::string_view encodedName);
 
     CKvDrawingStore &m_store;
@@ -69,4 +74,10 @@ private:
     /// By the very spelling: each user of a name gets it back as it wrote it.
     std::unordered_map<std::string, CKvObjectSlot *> m_standIns;
     std::unordered_map<std::string, CKvObjectSlot *> m_encodedNames;
+    /// The last answers: many entities one after the other name the same record.
+    std::string m_lastEncoded;
+    CKvObjectSlot *m_lastFound = nullptr;
+    bool m_hasLastFound = false;
+    const CKvObjectSlot *m_lastNamed = nullptr;
+    std::string m_lastName;
 };

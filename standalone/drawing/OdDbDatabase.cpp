@@ -10,6 +10,7 @@
 #include "OdDbIdMapping.h"
 #include "OdDbLinetypeTable.h"
 #include "OdDbLinetypeTableRecord.h"
+#include "entitiesInWalkOrder.h"
 #include "groupValueType.h"
 #include "lineTypeLoading.h"
 #include "purge.h"
@@ -228,6 +229,15 @@ void OdDbDatabase::wblockCloneObjects(const OdDbObjectIdArray &ids,
 void OdDbDatabase::purgeIds(OdDbObjectIdArray &ids) const
 {
     keepPurgeable(*m_store, ids);
+}
+
+OdDbObjectIdArray OdDbDatabase::entitiesNaming(OdDbObjectId recordId) const
+{
+    OdDbObjectIdArray found;
+    for (CKvObjectSlot *entity : entitiesInWalkOrder(*m_store, recordId.slot())) {
+        found.append(entity->id());
+    }
+    return found;
 }
 
 void OdDbDatabase::addReactor(OdDbDatabaseReactor *reactor)

@@ -4,6 +4,7 @@
 #include "CKvObjectAccess.h"
 #include "OdDbBlockTableRecord.h"
 #include "OdDbEntity.h"
+#include "entityLayer.h"
 #include "objectClasses.h"
 #include "objectTags.h"
 #include "recordNames.h"
@@ -31,6 +32,11 @@ constexpr CKvEntityName kLineStyle = {
 
 std::string_view encodedName(const CKvObjectSlot &slot, const CKvEntityName &name)
 {
+    if (name.code == kLayer.code && slot.hasPlainLayer()) {
+        return slot.movedTo != 0
+            ? slot.store->movedLayerName(slot)
+            : slot.store->image()->bytes().substr(slot.begin + slot.layerAt, slot.layerSize);
+    }
     const std::optional<CKvTag> tag = findTag(slot, name.code, CKvTagScope::EntityPart);
     return tag ? tag->value : name.fallback;
 }
@@ -42,6 +48,10 @@ CKvObjectSlot &recordOf(const CKvObjectSlot &slot, const CKvEntityName &name)
 
 void writeName(CKvObjectSlot &slot, const CKvEntityName &name, std::string_view encoded)
 {
+    const bool isPlainMove = name.code == kLayer.code && slot.hasPlainLayer();
+    if (isPlainMove && slot.store->moveToLayer(slot, encoded)) {
+        return;
+    }
     setTag(slot, name.code, encoded, name.anchors, CKvTagScope::EntityPart);
 }
 
@@ -76,7 +86,7 @@ void setName(CKvObjectSlot &slot, const CKvEntityName &name, OdDbObjectId id, bo
                                                : "The line style is not one of this drawing.");
     }
     const CKvObjectSlot *before = &recordOf(slot, name);
-    const std::string encoded(encodedRecordName(*id.slot()));
+    const std::string &encoded = slot.store->table(name.table).encodedNameOf(*id.slot());
     writeName(slot, name, encoded);
     if (withParts) {
         writeNameOfParts(slot, name, before, encoded);
@@ -84,6 +94,11 @@ void setName(CKvObjectSlot &slot, const CKvEntityName &name, OdDbObjectId id, bo
 }
 
 } // namespace
+
+std::string_view encodedLayer(const CKvObjectSlot &slot)
+{
+    return encodedName(slot, kLayer);
+}
 
 /// The entities of a block as they were when the walk began.
 class CKvEntityWalk

@@ -2,9 +2,10 @@
 #include "nameUses.h"
 
 #include "CKvDrawingStore.h"
-#include "CKvEntityIndex.h"
 #include "CKvTagReader.h"
 
+#include <algorithm>
+#include <iterator>
 #include <optional>
 #include <utility>
 
@@ -215,7 +216,27 @@ void forEachNameUse(const CKvObjectSlot &slot,
     scan.tellRest();
 }
 
-void forEachSlot(CKvDrawingStore &store, const std::function<void(CKvObjectSlot &)> &action)
+bool hasOwnNameUses(std::string_view type)
+{
+    return std::any_of(std::begin(kObjectUses), std::end(kObjectUses), [&](const auto &row) {
+        return row.holder == type;
+    });
+}
+
+bool namesRecordOf(std::string_view type, CKvTableKind kind)
+{
+    return std::any_of(std::begin(kObjectUses), std::end(kObjectUses), [&](const auto &row) {
+        return row.holder == type && row.table == kind;
+    });
+}
+
+bool isKeepingPointer(int code)
+{
+    return (code >= 320 && code <= 329) || (code >= 340 && code <= 369)
+        || (code >= 390 && code <= 399) || code == 480 || code == 481;
+}
+
+void forEachUndrawnSlot(CKvDrawingStore &store, const std::function<void(CKvObjectSlot &)> &action)
 {
     const auto tell = [&](CKvObjectSlot &slot) {
         if (!slot.isErased) {
@@ -227,9 +248,6 @@ void forEachSlot(CKvDrawingStore &store, const std::function<void(CKvObjectSlot 
         for (CKvObjectSlot *record : store.table(CKvTableKind(i)).records()) {
             tell(*record);
         }
-    }
-    for (CKvObjectSlot *entity : store.entities().all()) {
-        tell(*entity);
     }
     for (CKvObjectSlot *object : store.objects()) {
         tell(*object);

@@ -5,6 +5,7 @@
 #include "CKvTag.h"
 
 #include <functional>
+#include <string_view>
 
 class CKvDrawingStore;
 class CKvObjectSlot;
@@ -24,6 +25,15 @@ void forEachNameUse(const CKvObjectSlot &slot,
                     CKvUses uses,
                     const CKvNameUse &use,
                     const CKvPlainTag &plainTag = {});
-/// Calls action for everything of the drawing that is not erased: header, records, blocks' edges
-/// and entities, objects.
-void forEachSlot(CKvDrawingStore &store, const std::function<void(CKvObjectSlot &)> &action);
+/// @param type the word behind group 0.
+/// @return true when such objects name records in groups that others don't have.
+bool hasOwnNameUses(std::string_view type);
+/// @return true when such objects name a record of that table in a group of their own.
+bool namesRecordOf(std::string_view type, CKvTableKind kind);
+/// @return true for the group of a handle that keeps its object: not 330 to 339, which are owners
+/// and soft pointers.
+bool isKeepingPointer(int code);
+
+/// Calls action for everything of the drawing that is not erased but for what is drawn: header,
+/// records, objects.
+void forEachUndrawnSlot(CKvDrawingStore &store, const std::function<void(CKvObjectSlot &)> &action);

@@ -2,10 +2,12 @@
 #include "purge.h"
 
 #include "CKvDrawingStore.h"
-#include "CKvTagReader.h"
+#include "CKvEntityIndex.h"
+#include "entityLayer.h"
 #include "nameUses.h"
 #include "recordNames.h"
 
+#include <algorithm>
 #include <map>
 #include <set>
 
@@ -40,13 +42,6 @@ bool isLasting(const CKvDrawingStore &store, const CKvObjectSlot &slot)
     return false;
 }
 
-/// A pointer that keeps its object: not 330 to 339, which are owners and soft pointers.
-bool isKeepingPointer(int code)
-{
-    return (code >= 320 && code <= 329) || (code >= 340 && code <= 369)
-        || (code >= 390 && code <= 399) || code == 480 || code == 481;
-}
-
 /// Who refers to the candidates.
 class CKvReferenceSearch
 {
@@ -74,6 +69,30 @@ public:
             });
     }
 
+    /// Asks who names a candidate or holds its handle; an entity is no candidate itself, so one
+    /// that does is enough.
+    void askEntities()
+    {
+        CKvUserIndex &users = m_store.entities().users();
+        for (const CKvObjectSlot *candidate : m_candidates) {
+            const CKvTableKind kind = kindOf(*candidate);
+            const auto names = [&](const CKvObjectSlot *user) {
+                return isNamed(*candidate, kind, *user);
+            };
+            std::vector<CKvObjectSlot *> found = users.usersOf(kind, recordName(*candidate));
+            bool isUsed = std::any_of(found.begin(), found.end(), names);
+            if (!isUsed && candidate->handle != 0 && m_store.hasHandles()) {
+                found = users.holdersOf(candidate->handle);
+                isUsed = std::any_of(found.begin(), found.end(), [&](const CKvObjectSlot *user) {
+                    return isHeld(*candidate, *user);
+                });
+            }
+            if (isUsed) {
+                m_staying.insert(candidate);
+            }
+        }
+    }
+
     /// The candidates that stay: used by what is no candidate, or by one that stays.
     CKvSlotSet staying() const
     {
@@ -93,6 +112,44 @@ public:
     }
 
 private:
+    CKvTableKind kindOf(const CKvObjectSlot &record) const
+    {
+        std::size_t kind = 0;
+        while (kind + 1 < kTableCount && !m_store.isRecordOf(record, CKvTableKind(kind))) {
+            ++kind;
+        }
+        return CKvTableKind(kind);
+    }
+    bool isNamed(const CKvObjectSlot &record, CKvTableKind kind, const CKvObjectSlot &user) const
+    {
+        if (user.isErased) {
+            return false;
+        }
+        // Merged entities, maybe a million, are asked where they stand now and not read anew.
+        if (kind == CKvTableKind::Layer && user.hasPlainLayer()) {
+            return m_store.table(kind).findEncoded(encodedLayer(user)) == &record;
+        }
+        bool isFound = false;
+        forEachNameUse(user, CKvUses::OnlyReferences, [&](CKvTableKind used, const CKvTag &tag) {
+            isFound =
+                isFound || (used == kind && m_store.table(kind).findEncoded(tag.value) == &record);
+        });
+        return isFound;
+    }
+    bool isHeld(const CKvObjectSlot &record, const CKvObjectSlot &user) const
+    {
+        bool isFound = false;
+        forEachNameUse(
+            user,
+            CKvUses::OnlyReferences,
+            [](CKvTableKind, const CKvTag &) {},
+            [&](const CKvTag &tag) {
+                isFound = isFound
+                    || (isKeepingPointer(tag.code)
+                        && m_store.findRecordByHandle(tag.handle()) == &record);
+            });
+        return isFound && !user.isErased;
+    }
     void note(const CKvObjectSlot &user, const CKvObjectSlot *used)
     {
         if (!used || used == &user || m_candidates.count(used) == 0) {
@@ -137,7 +194,8 @@ void keepPurgeable(CKvDrawingStore &store, OdDbObjectIdArray &ids)
     }
     CKvReferenceSearch search(store, candidates);
     if (!candidates.empty()) {
-        forEachSlot(store, [&](CKvObjectSlot &slot) { search.visit(slot); });
+        forEachUndrawnSlot(store, [&](CKvObjectSlot &slot) { search.visit(slot); });
+        search.askEntities();
     }
     const CKvSlotSet staying = search.staying();
     OdDbObjectIdArray purgeable;

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "CKvDrawingStore.h"
+#include "CKvEntityIndex.h"
 #include "CKvObjectAccess.h"
 #include "OdDbDimStyleTableRecord.h"
 #include "OdDbSymbolTableRecord.h"
@@ -60,7 +61,7 @@ void rewriteUses(CKvDrawingStore &store,
                  const std::string &newName)
 {
     const QString folded = foldedName(oldName);
-    forEachSlot(store, [&](CKvObjectSlot &slot) {
+    const auto rewrite = [&](CKvObjectSlot &slot) {
         std::vector<CKvTag> tags;
         forEachNameUse(slot, CKvUses::All, [&](CKvTableKind used, const CKvTag &tag) {
             if (used == kind && foldedName(store.format().codec.decode(tag.value)) == folded) {
@@ -74,7 +75,13 @@ void rewriteUses(CKvDrawingStore &store,
         for (auto tag = tags.rbegin(); tag != tags.rend(); ++tag) {
             replaceTagValue(slot.ownBytes(), *tag, newName);
         }
-    });
+    };
+    forEachUndrawnSlot(store, rewrite);
+    for (CKvObjectSlot *user : store.entities().users().usersOf(kind, oldName)) {
+        if (!user->isErased) {
+            rewrite(*user);
+        }
+    }
 }
 
 } // namespace

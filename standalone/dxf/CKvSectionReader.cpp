@@ -23,28 +23,50 @@ public:
     }
     void note(const CKvTag &tag)
     {
-        if (tag.code == 1001) {
-            m_isExtended = true;
-        }
-        if (m_isExtended) {
+        const int code = tag.code;
+        // Most groups are coordinates and texts, and tell nothing here.
+        const bool isPlain = (code > 8 && code < 67) || (code > 67 && code < 100);
+        if (isPlain || m_isExtended) {
             return;
         }
-        if (tag.code == 102) {
+        if (code >= 320) {
+            m_isExtended = code == 1001;
+            m_outline.hasPointers = m_outline.hasPointers || m_isExtended || isPointer(code);
+        }
+        if (code == 102) {
             m_isInBraces = tag.word() != kControlGroupEnd;
-        } else if (tag.code == 67) {
+        } else if (code == 100) {
+            m_subclasses += m_isInBraces ? 0 : 1;
+        } else if (code == 67) {
             m_outline.isInPaperSpace = tag.integer() != 0;
-        } else if (tag.code == m_handleCode && !m_hasHandle && !m_isInBraces) {
+        } else if (code == m_handleCode && !m_hasHandle && !m_isInBraces) {
             m_outline.handle = tag.handle();
             m_hasHandle = true;
-        } else if (tag.code == 330 && m_outline.owner == 0 && !m_isInBraces) {
+        } else if (code == 330 && m_outline.owner == 0 && !m_isInBraces) {
             m_outline.owner = tag.handle();
+        } else if (code == 8 && isCommon()) {
+            m_outline.layer = tag.value;
+        } else if (code == 6 && isCommon()) {
+            m_outline.lineStyle = tag.value;
+        } else if (code == 101) {
+            m_isEmbedded = true;
         }
     }
 
 private:
+    static bool isPointer(int code)
+    {
+        return code < 330 || (code >= 340 && code < 370) || (code >= 390 && code < 400)
+            || code == 480 || code == 481;
+    }
+    /// In the part that all entities have.
+    bool isCommon() const { return m_subclasses < 2 && !m_isInBraces && !m_isEmbedded; }
+
     CKvObjectOutline &m_outline;
     int m_handleCode;
+    int m_subclasses = 0;
     bool m_hasHandle = false;
+    bool m_isEmbedded = false;
     bool m_isInBraces = false;
     bool m_isExtended = false;
 };

@@ -6,6 +6,9 @@
 
 #include <QStringList>
 
+#include <optional>
+#include <string_view>
+
 /// Where an object stands in the file, and what a walk over many has to know of each.
 struct CKvObjectOutline {
     /// From its group 0 to the next.
@@ -19,6 +22,11 @@ struct CKvObjectOutline {
     std::uint64_t owner = 0;
     /// Group 67 is not 0.
     bool isInPaperSpace = false;
+    /// The last groups 8 and 6 before the second subclass mark.
+    std::optional<std::string_view> layer;
+    std::optional<std::string_view> lineStyle;
+    /// There is a group of handles other than the own one and owners, or extended data.
+    bool hasPointers = false;
 };
 
 /// Takes a file apart into sections and objects. What is tolerated is told as a warning, what is

@@ -1,0 +1,82 @@
+// SPDX-License-Identifier: MIT
+#include "entitiesInWalkOrder.h"
+
+#include "CKvDrawingStore.h"
+#include "CKvEntityIndex.h"
+#include "recordNames.h"
+
+#include <algorithm>
+#include <optional>
+#include <unordered_map>
+
+namespace
+{
+
+std::optional<CKvTableKind> kindOf(const CKvDrawingStore &store, const CKvObjectSlot &record)
+{
+    for (const CKvTableKind kind : { CKvTableKind::Layer,
+                                     CKvTableKind::Linetype,
+                                     CKvTableKind::TextStyle,
+                                     CKvTableKind::DimStyle }) {
+        // A stand-in is no record, but entities name it all the same.
+        if (record.owner && record.owner == &store.table(kind).head()) {
+            return kind;
+        }
+    }
+    return std::nullopt;
+}
+
+void sortByBlock(CKvDrawingStore &store, std::vector<CKvObjectSlot *> &entities)
+{
+    std::unordered_map<const CKvObjectSlot *, std::size_t> places;
+    for (const CKvObjectSlot *block : store.table(CKvTableKind::Block).records()) {
+        places.emplace(block, places.size());
+    }
+    const CKvObjectSlot *lastBlock = nullptr;
+    std::size_t lastPlace = 0;
+    const auto placeOf = [&](const CKvObjectSlot *entity) {
+        if (entity->owner != lastBlock) {
+            lastBlock = entity->owner;
+            const auto found = places.find(lastBlock);
+            lastPlace = found == places.end() ? places.size() : found->second;
+        }
+        return lastPlace;
+    };
+    std::vector<std::vector<CKvObjectSlot *>> byPlace(places.size() + 1);
+    for (CKvObjectSlot *entity : entities) {
+        byPlace[placeOf(entity)].push_back(entity);
+    }
+    entities.clear();
+    for (const std::vector<CKvObjectSlot *> &ofBlock : byPlace) {
+        entities.insert(entities.end(), ofBlock.begin(), ofBlock.end());
+    }
+}
+
+} // namespace
+
+std::vector<CKvObjectSlot *> entitiesInWalkOrder(CKvDrawingStore &store,
+                                                 const CKvObjectSlot *record)
+{
+    const std::optional<CKvTableKind> kind =
+        record && record->store == &store ? kindOf(store, *record) : std::nullopt;
+    if (!kind) {
+        return {};
+    }
+    std::vector<CKvObjectSlot *> entities =
+        store.entities().users().usersOf(*kind, recordName(*record));
+    entities.erase(std::remove_if(entities.begin(),
+                                  entities.end(),
+                                  [](const CKvObjectSlot *slot) {
+                                      // What stands in no block is met by no walk.
+                                      return slot->isErased || !slot->owner
+                                          || slot->role != CKvObjectSlot::Role::Entity;
+                                  }),
+                   entities.end());
+    const auto isOfAnother = [&](const CKvObjectSlot *slot) {
+        return slot->owner != entities.front()->owner;
+    };
+    if (std::any_of(entities.begin(), entities.end(), isOfAnother)) {
+        sortByBlock(store, entities);
+    }
+    return entities;
+}
