@@ -2,7 +2,28 @@
 #include "CKvNameUsers.h"
 
 #include "CKvNameIndex.h"
+#include "CKvObjectSlot.h"
 #include "CKvTextCodec.h"
+
+#include <algorithm>
+
+namespace
+{
+
+bool isBefore(const CKvObjectSlot *a, const CKvObjectSlot *b)
+{
+    return a->serial < b->serial;
+}
+
+} // namespace
+
+void sortWithoutDoubles(std::vector<CKvObjectSlot *> &objects)
+{
+    if (!std::is_sorted(objects.begin(), objects.end(), isBefore)) {
+        std::sort(objects.begin(), objects.end(), isBefore);
+    }
+    objects.erase(std::unique(objects.begin(), objects.end()), objects.end());
+}
 
 CKvNameUsers::Spelling &CKvNameUsers::spelling(std::string_view encodedName)
 {
@@ -14,6 +35,15 @@ CKvNameUsers::Spelling &CKvNameUsers::spelling(std::string_view encodedName)
     made.name = std::string(encodedName);
     m_bySpelling.emplace(made.name, &made);
     return made;
+}
+
+void CKvNameUsers::takeOutDoubles(Spelling &spelling)
+{
+    constexpr std::size_t kFewUsers = 16;
+    if (spelling.users.size() > 2 * spelling.withoutDoubles + kFewUsers) {
+        sortWithoutDoubles(spelling.users);
+        spelling.withoutDoubles = spelling.users.size();
+    }
 }
 
 void CKvNameUsers::appendUsers(const QString &name,
@@ -28,7 +58,8 @@ void CKvNameUsers::appendUsers(const QString &name,
     if (found == m_byFoldedName.constEnd()) {
         return;
     }
-    for (const Spelling *meant : *found) {
+    for (Spelling *meant : *found) {
+        takeOutDoubles(*meant);
         users.insert(users.end(), meant->users.begin(), meant->users.end());
     }
 }

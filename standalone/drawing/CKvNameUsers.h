@@ -4,6 +4,7 @@
 #include <QHash>
 #include <QString>
 
+#include <cstddef>
 #include <deque>
 #include <string>
 #include <string_view>
@@ -12,6 +13,9 @@
 
 class CKvObjectSlot;
 class CKvTextCodec;
+
+/// Brings objects into the order of the file, each once.
+void sortWithoutDoubles(std::vector<CKvObjectSlot *> &objects);
 
 /// The users of the records of one table, by the name as they spell it. Spellings are told apart by
 /// their bytes while they are gathered, and brought together when somebody asks.
@@ -34,9 +38,14 @@ private:
     struct Spelling {
         std::string name;
         std::vector<CKvObjectSlot *> users;
+        /// How many there were when doubles were last taken out.
+        std::size_t withoutDoubles = 0;
     };
 
     Spelling &spelling(std::string_view encodedName);
+    /// An entity that goes and comes back is entered each time; the list stays as long as the
+    /// drawing has entities all the same.
+    static void takeOutDoubles(Spelling &spelling);
 
     /// Never moved: the keys are views of the names.
     std::deque<Spelling> m_spellings;

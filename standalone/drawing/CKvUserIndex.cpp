@@ -6,8 +6,6 @@
 #include "CKvTagReader.h"
 #include "nameUses.h"
 
-#include <algorithm>
-
 namespace
 {
 
@@ -25,19 +23,6 @@ constexpr CKvDefaultName kDefaultNames[] = {
     { CKvTableKind::TextStyle, "Standard" },
     { CKvTableKind::DimStyle, "Standard" },
 };
-
-bool isBefore(const CKvObjectSlot *a, const CKvObjectSlot *b)
-{
-    return a->serial < b->serial;
-}
-
-void sortWithoutDoubles(std::vector<CKvObjectSlot *> &users)
-{
-    if (!std::is_sorted(users.begin(), users.end(), isBefore)) {
-        std::sort(users.begin(), users.end(), isBefore);
-    }
-    users.erase(std::unique(users.begin(), users.end()), users.end());
-}
 
 } // namespace
 
