@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "OdDbDimensionSettings.h"
 #include "OdDbHandle.h"
 #include "OdDbObjectId.h"
 #include "OdResBuf.h"
@@ -16,7 +17,7 @@ class OdDbIdMapping;
 using OdDbDatabasePtr = OdSmartPtr<OdDbDatabase>;
 
 /// An open drawing.
-class KV_HOST_API OdDbDatabase : public OdRxObject
+class KV_HOST_API OdDbDatabase : public OdDbDimensionSettings
 {
 public:
     explicit OdDbDatabase(std::unique_ptr<CKvDrawingStore> store);

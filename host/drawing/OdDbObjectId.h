@@ -50,3 +50,5 @@ private:
 };
 
 using OdDbObjectIdArray = OdArray<OdDbObjectId>;
+/// An id that keeps its object from being purged.
+using OdDbHardPointerId = OdDbObjectId;

@@ -21,6 +21,8 @@ public:
     OdDbSymbolTableRecordPtr
     getAt(const OdString &name, OdDb::OpenMode mode, bool getErased = false) const;
     bool has(const OdString &name) const { return !getAt(name).isNull(); }
+    /// True for a record of this table that is not erased.
+    bool has(OdDbObjectId id) const;
     OdDbSymbolTableIteratorPtr newIterator(bool fromBeginning = true, bool skipErased = true) const;
     /// Enters a record in the table; one that addOdDbObject put into this drawing keeps its id.
     /// @throws OdError kDuplicateName when the name is taken.

@@ -138,7 +138,10 @@ void CKvDrawingWriter::addNew(const CKvObjectSlot &slot)
     case Role::Record:
         for (std::size_t i = 0; i < kTableCount; ++i) {
             const CKvTable &table = m_store.table(CKvTableKind(i));
-            if (!m_store.isRecordOf(slot, table.kind())) {
+            // R12 and older have blocks, but no records of them.
+            const bool hasNoPlace =
+                table.kind() == CKvTableKind::Block && !m_store.format().hasDictionaries();
+            if (hasNoPlace || !m_store.isRecordOf(slot, table.kind())) {
                 continue;
             }
             if (table.isInFile()) {

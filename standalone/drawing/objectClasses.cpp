@@ -9,9 +9,11 @@
 #include "OdDbDictionary.h"
 #include "OdDbDimStyleTable.h"
 #include "OdDbDimStyleTableRecord.h"
+#include "OdDbDimension.h"
 #include "OdDbEntity.h"
 #include "OdDbLayerTable.h"
 #include "OdDbLayerTableRecord.h"
+#include "OdDbLeader.h"
 #include "OdDbLinetypeTable.h"
 #include "OdDbLinetypeTableRecord.h"
 #include "OdDbMText.h"
@@ -40,6 +42,12 @@ template <class T> std::unique_ptr<OdRxClass> makeGenericClass(const OdString &t
     return std::make_unique<OdRxClass>(name, T::desc(), &constructRx<T>, type);
 }
 
+/// Dimensions that stand under a name of their own.
+bool isOddDimension(std::string_view type)
+{
+    return type == "ARC_DIMENSION" || type == "LARGE_RADIAL_DIMENSION";
+}
+
 OdRxClass *genericClass(std::string_view type, CKvObjectSlot::Role role)
 {
     using Role = CKvObjectSlot::Role;
@@ -52,9 +60,10 @@ OdRxClass *genericClass(std::string_view type, CKvObjectSlot::Role role)
                                                                  : 2][std::string(type)];
     if (!known) {
         const OdString name(QString::fromLatin1(type.data(), int(type.size())));
-        known = isEntity ? makeGenericClass<OdDbEntity>(name)
-            : isRecord   ? makeGenericClass<OdDbSymbolTableRecord>(name)
-                         : makeGenericClass<OdDbObject>(name);
+        known = isOddDimension(type) ? makeGenericClass<OdDbDimension>(name)
+            : isEntity               ? makeGenericClass<OdDbEntity>(name)
+            : isRecord               ? makeGenericClass<OdDbSymbolTableRecord>(name)
+                                     : makeGenericClass<OdDbObject>(name);
     }
     return known.get();
 }
@@ -98,6 +107,8 @@ OdRxClass *entityClass(std::string_view type)
         { "ARCALIGNEDTEXT", &OdDbArcAlignedText::desc },
         { "RTEXT", &RText::desc },
         { "ACAD_TABLE", &OdDbTable::desc },
+        { "DIMENSION", &OdDbDimension::desc },
+        { "LEADER", &OdDbLeader::desc },
     };
     return classOf(type, kRows);
 }

@@ -4,7 +4,6 @@
 #include "CKvObjectAccess.h"
 #include "OdDbDimStyleTableRecord.h"
 #include "OdDbSymbolTableRecord.h"
-#include "makeRecord.h"
 #include "nameUses.h"
 #include "objectTags.h"
 #include "recordNames.h"
@@ -137,26 +136,10 @@ void OdDbSymbolTableRecord::setName(const OdString &name)
 bool OdDbSymbolTableRecord::isDependent() const
 {
     constexpr int kDependentFlag = 16;
-    const std::optional<CKvTag> flags = findTag(*CKvObjectAccess::slotOf(*this), 70);
+    // The second 70 of a dimension style is a colour.
+    const bool hasColorBehind = isKindOf(OdDbDimStyleTableRecord::desc());
+    const CKvObjectSlot &slot = *CKvObjectAccess::slotOf(*this);
+    const std::optional<CKvTag> flags = hasColorBehind ? findFirstTag(slot, 70) : findTag(slot, 70);
     return (flags && (flags->integer() & kDependentFlag) != 0)
         || getName().toQString().contains(QLatin1Char('|'));
-}
-
-OdRxClass *OdDbDimStyleTableRecord::desc()
-{
-    static OdRxClass s_class(OdString("OdDbDimStyleTableRecord"),
-                             OdDbSymbolTableRecord::desc(),
-                             &constructRx<OdDbDimStyleTableRecord>,
-                             OdString("DIMSTYLE"));
-    return &s_class;
-}
-
-OdDbDimStyleTableRecordPtr OdDbDimStyleTableRecord::cast(const OdRxObject *object)
-{
-    return castRx<OdDbDimStyleTableRecord>(object);
-}
-
-OdDbDimStyleTableRecordPtr OdDbDimStyleTableRecord::createObject()
-{
-    return makeRecord<OdDbDimStyleTableRecord>("DIMSTYLE", "AcDbDimStyleTableRecord");
 }

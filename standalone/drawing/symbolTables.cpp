@@ -138,6 +138,13 @@ OdDbSymbolTable::getAt(const OdString &name, OdDb::OpenMode mode, bool getErased
     return OdDbSymbolTableRecordPtr(getAt(name, getErased).openObject(mode, getErased));
 }
 
+bool OdDbSymbolTable::has(OdDbObjectId id) const
+{
+    const CKvObjectSlot *record = id.slot();
+    return record && !record->isErased && record->role == CKvObjectSlot::Role::Record
+        && record->owner == CKvObjectAccess::slotOf(*this);
+}
+
 OdDbSymbolTableIteratorPtr OdDbSymbolTable::newIterator(bool fromBeginning, bool skipErased) const
 {
     CKvTable &table = tableOf(*this);
