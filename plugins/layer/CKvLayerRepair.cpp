@@ -3,12 +3,12 @@
 
 #include "CKvLayerTexts.h"
 #include "CKvStdsProperty.h"
+#include "cloneSymbolToDrawing.h"
 #include "lineweightNames.h"
 #include "purgeRecords.h"
 #include "walkDrawing.h"
 
 #include "CKvSystemServices.h"
-#include "OdDbIdMapping.h"
 #include "OdDbLinetypeTable.h"
 
 CKvLayerRepair::CKvLayerRepair(OdDbDatabasePtr drawing,
@@ -109,19 +109,9 @@ bool CKvLayerRepair::cloneLineStyle()
     if (wanted.isNull()) {
         return true;
     }
-    const OdDbIdMappingPtr mapping = OdDbIdMapping::createObject();
-    mapping->setDestDb(m_drawing.get());
-    OdDbObjectIdArray ids;
-    ids.append(wanted);
-    try {
-        standards->wblockCloneObjects(ids,
-                                      m_drawing->getLinetypeTableId(),
-                                      *mapping,
-                                      OdDb::kReplaceDuplicates,
-                                      /*deferTranslation*/ false);
-    } catch (const OdError &) {
-        // The caller looks for the style and goes on without it.
-    }
+    // Whether there is a clone is seen by the caller, who looks for the style.
+    cloneSymbolToDrawing(
+        OdDbSymbolTablePtr(m_drawing->getLinetypeTableId().openObject(OdDb::kForRead)), wanted);
     return true;
 }
 
