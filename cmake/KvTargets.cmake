@@ -107,6 +107,19 @@ function(kv_add_program)
   target_link_libraries(${ARG_NAME} PRIVATE ${ARG_DEPENDS})
 endfunction()
 
+# kv_serve_modules(<program>)
+# The program loads modules: all of the host is linked, and modules can reach what is declared for
+# them.
+function(kv_serve_modules NAME)
+  set(HOST standalone_dxf standalone_drawing standalone_kernel standalone_widgets)
+  set(ARCHIVES ${HOST})
+  list(TRANSFORM ARCHIVES REPLACE "(.+)" "$<TARGET_FILE:\\1>")
+  # Ahead of all else, so that where the same archives come again nothing of them is missing.
+  target_link_options(${NAME} BEFORE PRIVATE LINKER:--whole-archive ${ARCHIVES} LINKER:--no-whole-archive)
+  set_target_properties(${NAME} PROPERTIES ENABLE_EXPORTS ON)
+  target_link_libraries(${NAME} PRIVATE ${HOST})
+endfunction()
+
 # kv_add_tests(NAME <target> SOURCES <...> DEPENDS <...> [WIDGETS])
 # One program a folder; every test in it is known to ctest by its own name. WIDGETS: the tests get a
 # window system that needs no display.

@@ -6,6 +6,7 @@
 #include "CKvSystemServices.h"
 #include "OdDbDictionary.h"
 #include "OdDbXrecord.h"
+#include "compareDimStyles.h"
 
 #include <QApplication>
 #include <QTimer>
@@ -42,12 +43,24 @@ bool isIdle(const CKvDocument &document)
         && !context->isScriptRunning();
 }
 
+/// Whether a dimension style differs from how it was before the change.
+bool isChanged(const OdDbObject &object, const OdDbDimStyleTableRecordPtr &snapshot)
+{
+    const OdDbDimStyleTableRecordPtr record(object.objectId().openObject(OdDb::kForRead));
+    return !compareDimStyles(record, snapshot, false).empty();
+}
+
 } // namespace
 
 void CKvStdsManagerImpl::noteChangedObject(const OdDbObject *object)
 {
     if (!GetKvStandardManager() || !object->isKindOf(OdDbObject::desc())
         || object->isKindOf(OdDbXrecord::desc()) || object->isKindOf(OdDbDictionary::desc())) {
+        return;
+    }
+    // The snapshot may be of another style; whatever differs from it counts as changed.
+    if (object->isKindOf(OdDbDimStyleTableRecord::desc()) && m_dimStyleSnapshot
+        && !isChanged(*object, m_dimStyleSnapshot)) {
         return;
     }
     m_changedObjects.insert(object->objectId());

@@ -19,6 +19,12 @@ namespace
 /// Short enough to seem immediate, long enough to let a row of changes end.
 constexpr int kIntervalMs = 50;
 
+/// Null without a document, and while the document has no drawing.
+CKvDatabase *databaseOf(const CKvDocument *document)
+{
+    return document ? document->GetKvDatabase() : nullptr;
+}
+
 } // namespace
 
 CKvStdsManagerImpl::CKvStdsManagerImpl()
@@ -102,11 +108,12 @@ CKvStdsPluginsPtr CKvStdsManagerImpl::findPlugin(CKvString id) const
 
 bool CKvStdsManagerImpl::loadDocumentStandards(CKvDocument *document)
 {
-    CKvDatabase *database = document ? document->GetKvDatabase() : nullptr;
-    if (!database) {
+    CKvDatabase *database = databaseOf(document);
+    CKvSystemServices *services = GetKvSystemServices();
+    if (!database || !services) {
         return false;
     }
-    m_standardsFiles.load(*database, *GetKvSystemServices());
+    m_standardsFiles.load(*database, *services);
     if (hasUsableStandards()) {
         trackDocument(document);
         return true;
@@ -122,9 +129,8 @@ bool CKvStdsManagerImpl::hasUsableStandards() const
         if (file.exists()) {
             return true;
         }
-        const CKvDocument *document = ACTIVE_DOCUMENT();
         const CKvString found = GetKvSystemServices()->findFile(
-            CKvString(file.fileName()), 0, document ? document->GetKvDatabase() : nullptr, 0);
+            CKvString(file.fileName()), 0, databaseOf(ACTIVE_DOCUMENT()), 0);
         return QFileInfo::exists(found.toQString());
     };
     return areStandardsUsable(
@@ -133,15 +139,19 @@ bool CKvStdsManagerImpl::hasUsableStandards() const
 
 void CKvStdsManagerImpl::trackDocument(CKvDocument *document)
 {
-    if (m_trackedDocuments.emplace(document, true).second) {
-        document->GetKvDatabase()->addReactor(&m_databaseReactor);
+    CKvDatabase *database = databaseOf(document);
+    if (database && m_trackedDocuments.emplace(document, true).second) {
+        database->addReactor(&m_databaseReactor);
     }
 }
 
 void CKvStdsManagerImpl::untrackDocument(CKvDocument *document)
 {
-    if (m_trackedDocuments.erase(document) > 0) {
-        document->GetKvDatabase()->removeReactor(&m_databaseReactor);
+    if (m_trackedDocuments.erase(document) == 0) {
+        return;
+    }
+    if (CKvDatabase *database = databaseOf(document)) {
+        database->removeReactor(&m_databaseReactor);
     }
 }
 

@@ -59,7 +59,8 @@ public:
     /// The bare names, position by position the same files as standardsPaths.
     const std::vector<CKvString> &standardsNames() const { return m_standardsFiles.names(); }
     bool hasUsableStandards() const;
-    /// Attaches the database reactor to the document's drawing, once.
+    /// Attaches the database reactor to the document's drawing, once. Without a drawing nothing
+    /// happens.
     void trackDocument(CKvDocument *document);
     void untrackDocument(CKvDocument *document);
     bool isTracked(CKvDocument *document) const;

@@ -8,6 +8,8 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <exception>
+#include <optional>
 
 #ifdef _WIN32
 #include <windows.h>
@@ -61,6 +63,33 @@ QString fullPath(const QString &path)
                   "The module " + path.toStdString() + " can't be loaded: " + reason.toStdString());
 }
 
+/// Takes back what a start that failed had begun, as far as it can be taken back.
+void undoStart(OdRxModule &module)
+{
+    try {
+        module.uninitApp();
+    } catch (const std::exception &) {
+        // The failure of the start is the one to tell.
+    }
+}
+
+/// Starts a module.
+/// @return why it did not start, as an error of the host's own: what the module threw goes with its
+/// file.
+std::optional<OdError> failureOfStart(OdRxModule &module)
+{
+    try {
+        module.initApp();
+        return std::nullopt;
+    } catch (const OdError &error) {
+        undoStart(module);
+        return OdError(OdResult(error.code()), error.what());
+    } catch (const std::exception &error) {
+        undoStart(module);
+        return OdError(OdResult::kUnspecified, error.what());
+    }
+}
+
 } // namespace
 
 CKvLoadedModules::~CKvLoadedModules()
@@ -86,13 +115,11 @@ void CKvLoadedModules::load(const QString &path)
     }
     OdRxModuleHandle handle = file;
     OdRxModule *module = create(handle);
-    try {
-        module->initApp();
-    } catch (...) {
+    if (const std::optional<OdError> failure = failureOfStart(*module)) {
         // A module that did not start is no module.
         module->deleteModule();
         closeFile(file);
-        throw;
+        throw OdError(*failure);
     }
     m_modules.push_back({ full, file, module });
 }

@@ -19,8 +19,8 @@ public:
     CKvLoadedModules &operator=(const CKvLoadedModules &) = delete;
 
     /// Loads a module's file and starts it; does nothing when it is loaded.
-    /// @throws OdError when the file is no module; what its start throws, and then it is unloaded
-    /// again.
+    /// @throws OdError when the file is no module, and with the code and text of what its start
+    /// throws; it is unloaded again then.
     void load(const QString &path);
     /// Stops a module and unloads its file.
     /// @return false when it is not loaded.

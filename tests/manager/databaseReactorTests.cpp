@@ -173,6 +173,47 @@ TEST_F(DatabaseReactor, AStampOfAViolationIsNotNoted)
     EXPECT_THAT(queue(), IsEmpty());
 }
 
+TEST_F(DatabaseReactor, ADimensionStyleThatIsAsItWasIsNotNotedButRestartsTheTimer)
+{
+    renameToItself(object(0xf1));
+
+    EXPECT_THAT(queue(), IsEmpty());
+    EXPECT_TRUE(manager->isTimerActive());
+}
+
+TEST_F(DatabaseReactor, ADimensionStyleWhoseNameAloneChangesIsNotNoted)
+{
+    // The name is none of the compared properties.
+    rename(object(0xf1), "OTHER");
+
+    EXPECT_THAT(queue(), IsEmpty());
+    EXPECT_TRUE(manager->isTimerActive());
+}
+
+TEST_F(DatabaseReactor, ADimensionStyleWithAChangedPropertyIsNoted)
+{
+    OdDbDimStyleTableRecordPtr style(object(0xf1).openObject(OdDb::kForWrite));
+    style->setDimscale(7.0);
+    style.release();
+
+    EXPECT_THAT(queue(), ElementsAre(object(0xf1)));
+}
+
+TEST_F(DatabaseReactor, ADimensionStyleThatIsOpenBesideAnotherIsComparedWithTheOneOpenedLast)
+{
+    // Both are open for writing at once. The copy kept is that of COARSE, so FINE, which is as it
+    // was, differs from it.
+    OdDbSymbolTableRecordPtr fine(object(0xf1).openObject(OdDb::kForWrite));
+    fine->setName(fine->getName());
+    OdDbSymbolTableRecordPtr coarse(object(0xf2).openObject(OdDb::kForWrite));
+    coarse->setName(coarse->getName());
+
+    fine.release();
+    coarse.release();
+
+    EXPECT_THAT(queue(), ElementsAre(object(0xf1)));
+}
+
 TEST_F(DatabaseReactor, ANewDimensionStyleIsNoted)
 {
     const OdDbDimStyleTableRecordPtr record = OdDbDimStyleTableRecord::createObject();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "CKvCommand.h"
 #include "CKvManagerTest.h"
+#include "activeDocument.h"
 
 #include <QFile>
 
@@ -166,6 +167,18 @@ TEST_F(EditorReactor, RedoPostsNothingAndWatchesTheDocumentAgain)
     EXPECT_TRUE(manager->isTracked(&*document));
     EXPECT_TRUE(manager->isTimerActive());
     EXPECT_TRUE(hasQueue());
+}
+
+TEST_F(EditorReactor, RedoWithoutADocumentIsTolerated)
+{
+    CKvNamedCommand command("_REDO");
+    setActiveDocument(nullptr);
+
+    reactor.commandEnded(&command, document->commandContext());
+
+    setActiveDocument(&*document);
+    EXPECT_THAT(host.calls(), IsEmpty());
+    EXPECT_TRUE(manager->isTracked(&*document));
 }
 
 TEST_F(EditorReactor, RedoOfSeveralStepsIsARedo)

@@ -277,6 +277,28 @@ TEST_F(LoadStandards, UntrackingADocumentThatIsNotWatchedDoesNothing)
     EXPECT_FALSE(manager->isTracked(&opened));
 }
 
+TEST_F(LoadStandards, ADocumentThatHasLostItsDrawingIsNoLongerWatched)
+{
+    CKvSessionDocument &opened = openTracked();
+    opened.hasDatabase = false;
+
+    manager->untrackDocument(&opened);
+
+    EXPECT_FALSE(manager->isTracked(&opened));
+}
+
+TEST_F(LoadStandards, WithoutServicesNothingChanges)
+{
+    CKvSessionDocument &opened = openTracked();
+    const std::string before = standardsFiles();
+    SetKvSystemServices(nullptr);
+
+    EXPECT_FALSE(manager->loadDocumentStandards(&opened));
+
+    SetKvSystemServices(&host);
+    EXPECT_EQ(standardsFiles(), before);
+}
+
 TEST_F(LoadStandards, NoPluginIsNeededForFilesToBeUsable)
 {
     CKvSessionDocument &opened = open(QStringList(file("office.dws")));
