@@ -6,6 +6,7 @@
 #include "OdDbLayerTable.h"
 #include "OdDbXrecord.h"
 #include "clickLabelled.h"
+#include "standardsList.h"
 
 #include <QCheckBox>
 #include <QDialogButtonBox>
@@ -106,6 +107,11 @@ void CKvVerifyBench::setCandidates(unsigned index, const QStringList &names, int
         violation.fixes.append(candidate(name, "/std/office.dxf"));
     }
     violation.recommendedFix = recommended;
+}
+
+void CKvVerifyBench::addStandardsFile(const char *path)
+{
+    appendToStandardsList(*m_document.GetKvDatabase(), CKvString(path));
 }
 
 void CKvVerifyBench::setIgnored(unsigned index, const char *user)

@@ -41,6 +41,8 @@ public:
     CKvTestDocument &document() { return m_document; }
     /// Before it is shown.
     CKvStdsViolation &violation(unsigned index) { return m_violations[index]; }
+    /// Puts a file into the drawing's list.
+    void addStandardsFile(const char *path);
     void setCandidates(unsigned index, const QStringList &names, int recommended);
     /// As an audit finds a stamped object.
     void setIgnored(unsigned index, const char *user);

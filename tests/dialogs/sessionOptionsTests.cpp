@@ -57,7 +57,7 @@ protected:
         return CKvDrawingBuilder().standardsFiles(list);
     }
     OdDbDatabase &drawing() { return *m_bench.document().GetKvDatabase(); }
-    void append(const char *path) { appendToStandardsList(drawing(), CKvString(path)); }
+    void append(const char *path) { m_bench.addStandardsFile(path); }
     void remove(const char *path) { removeFromStandardsList(drawing(), CKvString(path)); }
     /// Clicks Options; meanwhile the user does that.
     void options(const std::function<void()> &action)
@@ -218,9 +218,7 @@ TEST(SessionOptionsWithoutAList, AFileThatIsListedMeanwhileEndsIt)
     bench.script().answer(QStringLiteral("QMessageBox"), [](QDialog &box) { box.reject(); });
     bench.show();
 
-    bench.host().whenAsked([&bench] {
-        appendToStandardsList(*bench.document().GetKvDatabase(), CKvString("/std/one.dxf"));
-    });
+    bench.host().whenAsked([&bench] { bench.addStandardsFile("/std/one.dxf"); });
     bench.click("OptionsButton");
 
     EXPECT_EQ(bench.script().shown(), QStringList { QStringLiteral("QMessageBox") });
