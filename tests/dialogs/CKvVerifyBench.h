@@ -55,11 +55,11 @@ public:
     static void settle();
     void click(const char *button);
     void clickCandidate(int row);
-    void press(const char *widget, Qt::Key key);
+    void press(const char *name, Qt::Key key);
     void pressInCandidates(Qt::Key key) { press("ReplaceWithTableWidget", key); }
 
     std::string text(const char *label);
-    bool isOn(const char *widget);
+    bool isOn(const char *name);
     /// Name of the object that is shown, empty between walks.
     std::string shown() { return text("ObjectNameLabel"); }
     /// The candidates, one a line, "*" on the marked one and ">" on the selected one:

@@ -269,7 +269,7 @@ using CheckBoxDialogs = testing::
 
 } // namespace
 
-TYPED_TEST_SUITE(CheckBoxState, CheckBoxDialogs);
+TYPED_TEST_SUITE(CheckBoxState, CheckBoxDialogs, );
 
 TYPED_TEST(CheckBoxState, ItIsReadAndSet)
 {
