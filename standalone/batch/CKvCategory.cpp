@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "CKvCategory.h"
 
+#include "CKvDimStylePluginImpl.h"
 #include "CKvLayerPluginImpl.h"
 #include "CKvLineStylePluginImpl.h"
 #include "CKvUsageError.h"
@@ -17,9 +18,9 @@ namespace
 constexpr std::array<CKvCategory, 4> kCategories = { {
     { "dimstyles",
       "dimension style",
-      nullptr,
-      nullptr,
-      nullptr,
+      &CKvDimStylePluginImpl::desc,
+      &CKvDimStylePluginImpl::rxInit,
+      &CKvDimStylePluginImpl::rxUninit,
       &OdDbDatabase::getDimStyleTableId },
     { "layers",
       "layer",

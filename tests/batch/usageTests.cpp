@@ -86,12 +86,12 @@ TEST_F(BatchUsage, ACategoryThatThisVersionCannotCheckIsWrongUsageThatSaysSo)
 {
     save(QStringLiteral("a.dxf"), cleanDrawing());
 
-    expectWrong(words("check a.dxf --only layers,dimstyles"),
-                "This version can't check dimstyles yet.");
+    expectWrong(words("check a.dxf --only layers,textstyles"),
+                "This version can't check textstyles yet.");
     expectWrong(words("fix a.dxf --dry-run --only textstyles"),
                 "This version can't check textstyles yet.");
-    expectWrong(words("ignore a.dxf dimstyles Standard"),
-                "This version can't check dimstyles yet.");
+    expectWrong(words("ignore a.dxf textstyles Standard"),
+                "This version can't check textstyles yet.");
 }
 
 TEST_F(BatchUsage, ARepairMustKnowWhereItGoes)
