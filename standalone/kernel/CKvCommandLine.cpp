@@ -135,6 +135,7 @@ CKvCommandLine::Outcome CKvCommandLine::execute(OdEdCommand &command)
         m_lastCommand = name;
     }
     context->enterCommand();
+    ++m_running;
     m_stack.tell([&](OdEdCommandStackReactor &reactor) {
         reactor.commandWillStart(&command, context.get());
     });
@@ -172,6 +173,7 @@ void CKvCommandLine::finish(OdEdCommand &command, CKvHostCommandContext &context
         }
     });
     context.leaveCommand();
+    --m_running;
     emit commandFinished(command.localName().toQString());
 }
 

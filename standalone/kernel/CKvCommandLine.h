@@ -63,6 +63,8 @@ public:
     /// For commands: tells something to the user.
     void print(const QString &text);
 
+    /// A command, or a script, is in progress.
+    bool isRunning() const { return m_running > 0; }
     const QString &lastCommand() const { return m_lastCommand; }
 
 signals:
@@ -89,4 +91,5 @@ private:
     std::deque<OdResBufPtr> m_posted;
     QTimer m_postTimer;
     QString m_lastCommand;
+    int m_running = 0;
 };

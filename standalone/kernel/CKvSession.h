@@ -49,6 +49,8 @@ public:
     CKvCommandStack &commands() { return m_stack; }
     CKvEditor &editor() { return m_editor; }
     CKvCommandLine &commandLine() { return m_commandLine; }
+    /// Null when none is open.
+    CKvHostDocument *activeDocument() const { return m_documents.active(); }
     CKvLoadedModules &modules() { return m_modules; }
 
     /// @param frame not owned; null when the window goes.

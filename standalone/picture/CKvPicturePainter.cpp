@@ -19,7 +19,7 @@ constexpr double kSpeck = 0.8;
 constexpr double kSmallestLetters = 2.5;
 constexpr double kMostPoints = 20000;
 constexpr int kDefaultLineWeight = 25;
-constexpr double kSmallestContrast = 26;
+constexpr double kSmallestContrast = 64;
 constexpr int kWhite = 7;
 
 double scaleOf(const QTransform &transform)
@@ -31,6 +31,21 @@ double scaleOf(const QTransform &transform)
 double brightness(QRgb color)
 {
     return 0.299 * qRed(color) + 0.587 * qGreen(color) + 0.114 * qBlue(color);
+}
+
+/// The colour, moved towards the foreground as far as it takes to stand out from the ground.
+QRgb seenOn(QRgb ground, QRgb color, QRgb foreground)
+{
+    for (int part = 0; part < 10; ++part) {
+        const auto mixed = [&](int own, int other) { return own + (other - own) * part / 10; };
+        const QRgb shown = qRgb(mixed(qRed(color), qRed(foreground)),
+                                mixed(qGreen(color), qGreen(foreground)),
+                                mixed(qBlue(color), qBlue(foreground)));
+        if (std::abs(brightness(shown) - brightness(ground)) >= kSmallestContrast) {
+            return shown;
+        }
+    }
+    return foreground;
 }
 
 QPointF mappedDirection(const QTransform &transform, QPointF direction)
@@ -127,11 +142,7 @@ QRgb CKvPicturePainter::colorOf(const CKvPictureColor &color,
         found = 0xff000000U | color.value;
         break;
     }
-    // What nobody could see on this ground is drawn as white or black.
-    const bool isSeen =
-        std::abs(brightness(found) - brightness(m_view.background.rgb())) >= kSmallestContrast
-        || QColor(found).saturation() > 128;
-    return isSeen ? found : m_view.foreground.rgb();
+    return seenOn(m_view.background.rgb(), found, m_view.foreground.rgb());
 }
 
 void CKvPicturePainter::usePen(const Inherited &look, const Walk &walk)

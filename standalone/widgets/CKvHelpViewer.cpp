@@ -59,3 +59,8 @@ void CKvHelpViewer::show(int topic)
     m_window->show();
     m_window->raise();
 }
+
+QTextBrowser *CKvHelpViewer::window() const
+{
+    return m_window;
+}

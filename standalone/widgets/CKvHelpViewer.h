@@ -18,7 +18,7 @@ public:
 
     void show(int topic);
     /// Null when none is open.
-    QTextBrowser *window() const { return m_window; }
+    QTextBrowser *window() const;
 
     /// Full path of a topic's file; empty when there is none.
     static QString fileOf(int topic);

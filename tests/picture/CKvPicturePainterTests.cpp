@@ -74,6 +74,20 @@ TEST(PicturePainter, WhiteIsBlackOnALightGround)
     EXPECT_EQ(countInRow(painted(drawing, dark), 20, qRgb(255, 255, 255)), 80);
 }
 
+TEST(PicturePainter, AColourThatWouldNotBeSeenMovesTowardsTheForeground)
+{
+    CKvDrawingBuilder drawing;
+    drawing.layer("YELLOW").color(2);
+    drawing.layer("PAPER").trueColor(250, 250, 250, 255);
+    addLine(drawing.modelSpace(), 10, 20.5, 90, 20.5).layer("YELLOW");
+    addLine(drawing.modelSpace(), 10, 40.5, 90, 40.5).layer("PAPER");
+
+    const QImage image = painted(drawing);
+
+    EXPECT_EQ(countInRow(image, 20, qRgb(204, 204, 0)), 80);
+    EXPECT_EQ(countInRow(image, 40, qRgb(175, 175, 175)), 80);
+}
+
 TEST(PicturePainter, LayersThatAreOffOrFrozenAreNotPainted)
 {
     CKvDrawingBuilder drawing;

@@ -1,0 +1,11 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+class CKvDesktop;
+
+/// NEW, OPEN, CLOSE, QSAVE, SAVE, SAVEAS, LOADSCRIPT, QUIT.
+void addFileCommands(CKvDesktop &desktop);
+/// ZOOM, REGEN.
+void addViewCommands(CKvDesktop &desktop);
+/// SETVAR, DWGSTANDARDS.
+void addSettingCommands(CKvDesktop &desktop);

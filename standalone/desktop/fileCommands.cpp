@@ -1,0 +1,175 @@
+// SPDX-License-Identifier: MIT
+#include "CKvCommandCancelled.h"
+#include "CKvDesktop.h"
+#include "CKvDrawingFile.h"
+#include "CKvHostDocument.h"
+#include "CKvMainWindow.h"
+#include "OdError.h"
+#include "desktopCommands.h"
+#include "findSupportFile.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QTextStream>
+
+namespace
+{
+
+QString drawingFilter()
+{
+    return CKvMainWindow::tr("Drawings (*.dxf *.DXF);;All files (*)");
+}
+
+QString scriptFilter()
+{
+    return CKvMainWindow::tr("Scripts (*.scr);;All files (*)");
+}
+
+/// The file that was given with the command, or the one that the user chooses.
+/// @throws CKvCommandCancelled when the user chooses none.
+QString fileToOpen(CKvDesktop &desktop, const QString &title, const QString &filter)
+{
+    QString path;
+    if (desktop.commandLine().hasAnswer()) {
+        path = desktop.commandLine().ask(title, CKvInput::Kind::Text);
+    } else {
+        path = QFileDialog::getOpenFileName(&desktop.window(), title, QString(), filter);
+    }
+    if (path.isEmpty()) {
+        throw CKvCommandCancelled();
+    }
+    return path;
+}
+
+QString fileToSave(CKvDesktop &desktop, const CKvHostDocument &document)
+{
+    const QString title = CKvMainWindow::tr("Save Drawing As");
+    QString path;
+    if (desktop.commandLine().hasAnswer()) {
+        path = desktop.commandLine().ask(title, CKvInput::Kind::Text);
+    } else {
+        const QString proposed = document.path().isEmpty() ? document.title() : document.path();
+        // Whether somebody else's work would be lost is asked with better words afterwards.
+        path = QFileDialog::getSaveFileName(
+            &desktop.window(), title, proposed, drawingFilter(), nullptr);
+    }
+    if (path.isEmpty()) {
+        throw CKvCommandCancelled();
+    }
+    return QFileInfo(path).suffix().isEmpty() ? QString(path + QLatin1String(".dxf")) : path;
+}
+
+bool openDrawing(CKvDesktop &desktop)
+{
+    const QString path = QDir::fromNativeSeparators(
+        fileToOpen(desktop, CKvMainWindow::tr("Open Drawing"), drawingFilter()));
+    desktop.window().showReading(path);
+    CKvHostDocument &document = desktop.session().documentManager()->open(path);
+    desktop.session().settings().addRecentFile(document.path());
+    desktop.window().updateRecentFiles();
+    for (const QString &warning : CKvDrawingFile::warnings(*document.GetKvDatabase())) {
+        desktop.commandLine().print(warning);
+    }
+    if (document.hindranceTo(document.path()) == CKvHostDocument::Hindrance::OpenElsewhere) {
+        desktop.commandLine().print(
+            CKvMainWindow::tr("%1 is open elsewhere too.").arg(document.title()));
+    }
+    return true;
+}
+
+bool newDrawing(CKvDesktop &desktop)
+{
+    const QString path = findSupportFile(QStringLiteral("new.dxf"), nullptr, {});
+    if (path.isEmpty()) {
+        throw OdError(OdResult::kUnreadableFile, "The template new.dxf was not found.");
+    }
+    desktop.session().documentManager()->openNew(path);
+    return true;
+}
+
+bool save(CKvDesktop &desktop, CKvHostDocument &document, const QString &path)
+{
+    if (!desktop.window().mayOverwrite(document, path)) {
+        throw CKvCommandCancelled();
+    }
+    document.saveAs(path);
+    desktop.session().settings().addRecentFile(document.path());
+    desktop.window().updateRecentFiles();
+    desktop.window().updateTitles();
+    desktop.commandLine().print(
+        CKvMainWindow::tr("Saved %1.").arg(QDir::toNativeSeparators(document.path())));
+    return true;
+}
+
+bool saveAs(CKvDesktop &desktop)
+{
+    CKvHostDocument &document = desktop.requireDocument();
+    return save(desktop, document, fileToSave(desktop, document));
+}
+
+bool quickSave(CKvDesktop &desktop)
+{
+    CKvHostDocument &document = desktop.requireDocument();
+    return document.path().isEmpty() ? saveAs(desktop) : save(desktop, document, document.path());
+}
+
+bool closeDrawing(CKvDesktop &desktop)
+{
+    CKvHostDocument &document = desktop.requireDocument();
+    // An answer, as a script gives it, stands for the button of that letter.
+    const QString answer = desktop.commandLine().hasAnswer() && document.isModified()
+        ? desktop.commandLine().ask(CKvMainWindow::tr("Discard the changes? [Yes/No]"))
+        : QString();
+    const bool discards = answer.startsWith(QLatin1Char('y'), Qt::CaseInsensitive);
+    if (!discards && !desktop.window().mayClose(document)) {
+        throw CKvCommandCancelled();
+    }
+    desktop.session().documentManager()->close(document);
+    return true;
+}
+
+bool loadScript(CKvDesktop &desktop)
+{
+    const QString path = fileToOpen(desktop, CKvMainWindow::tr("Run Script"), scriptFilter());
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) {
+        throw OdError(OdResult::kUnreadableFile,
+                      QStringLiteral("The script %1 can't be read: %2")
+                          .arg(QDir::toNativeSeparators(path), file.errorString())
+                          .toStdString());
+    }
+    QTextStream stream(&file);
+    stream.setCodec("UTF-8");
+    QStringList lines;
+    while (!stream.atEnd()) {
+        lines << stream.readLine();
+    }
+    desktop.commandLine().runScript(lines);
+    return true;
+}
+
+bool quit(CKvDesktop &desktop)
+{
+    const bool discards = desktop.commandLine().hasAnswer()
+        && desktop.commandLine()
+               .ask(CKvMainWindow::tr("Discard the changes? [Yes/No]"))
+               .startsWith(QLatin1Char('y'), Qt::CaseInsensitive);
+    desktop.window().closeLater(discards);
+    return true;
+}
+
+} // namespace
+
+void addFileCommands(CKvDesktop &desktop)
+{
+    desktop.addCommand("NEW", &newDrawing);
+    desktop.addCommand("OPEN", &openDrawing);
+    desktop.addCommand("CLOSE", &closeDrawing);
+    desktop.addCommand("QSAVE", &quickSave);
+    desktop.addCommand("SAVE", &saveAs);
+    desktop.addCommand("SAVEAS", &saveAs);
+    desktop.addCommand("LOADSCRIPT", &loadScript);
+    desktop.addCommand("QUIT", &quit);
+}
