@@ -49,8 +49,9 @@ OdResBufPtr variable(CKvDesktop &desktop, const QString &name)
     if (const OdResBufPtr own = hostVariable(name)) {
         return own;
     }
+    const CKvHostDocument &document = desktop.requireDocument();
     try {
-        return desktop.requireDocument().GetKvDatabase()->getSysVar(OdString(name));
+        return document.GetKvDatabase()->getSysVar(OdString(name));
     } catch (const OdError &error) {
         // An unknown name is told in the user's words, without a message box.
         if (error.code() == int(OdResult::kInvalidInput)) {

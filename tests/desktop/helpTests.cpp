@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: MIT
+#include "CKvDesktopTest.h"
+#include "CKvDialog.h"
+#include "CKvMainWindow.h"
+#include "helpTopics.h"
+
+#include <QTest>
+#include <QTextBrowser>
+
+namespace
+{
+
+class CKvTopicDialog : public CKvDialog
+{
+public:
+    explicit CKvTopicDialog(bool hasHelp)
+        : CKvDialog(nullptr, hasHelp)
+    {
+    }
+    int helpContextId() const override { return 3072; }
+};
+
+QTextBrowser *shownHelp()
+{
+    for (QWidget *widget : QApplication::allWidgets()) {
+        if (widget->objectName() == QLatin1String("HelpWindow") && widget->isVisible()) {
+            return static_cast<QTextBrowser *>(widget);
+        }
+    }
+    return nullptr;
+}
+
+} // namespace
+
+TEST_F(CKvDesktopTest, TopicsOpenInAWindow)
+{
+    showHelpTopic(0);
+    EXPECT_EQ(shownHelp(), nullptr);
+
+    showHelpTopic(3071);
+    ASSERT_NE(shownHelp(), nullptr);
+    EXPECT_EQ(shownHelp()->windowTitle(), text("Drawing standards"));
+    showHelpTopic(3072);
+
+    EXPECT_EQ(shownHelp()->windowTitle(), text("Verifying a drawing"));
+    EXPECT_TRUE(shownHelp()->toPlainText().contains(text("VERIFYSTANDARDS")));
+}
+
+TEST_F(CKvDesktopTest, F1InADialogOpensItsTopicUnlessItHasNoHelp)
+{
+    CKvTopicDialog without(false);
+    without.show();
+    QTest::keyClick(&without, Qt::Key_F1);
+    EXPECT_EQ(shownHelp(), nullptr);
+
+    CKvTopicDialog with(true);
+    with.show();
+    QTest::keyClick(&with, Qt::Key_F1);
+
+    ASSERT_NE(shownHelp(), nullptr);
+    EXPECT_EQ(shownHelp()->windowTitle(), text("Verifying a drawing"));
+}
+
+TEST_F(CKvDesktopTest, HelpForAModalDialogCanBeUsedWhileItIsOpen)
+{
+    CKvTopicDialog dialog(true);
+    dialog.setModal(true);
+    dialog.show();
+
+    dialog.Help();
+
+    ASSERT_NE(shownHelp(), nullptr);
+    EXPECT_EQ(shownHelp()->parentWidget(), &dialog);
+    EXPECT_TRUE(shownHelp()->isWindow());
+}
