@@ -1,24 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "CKvReportWriter.h"
-
-#include <vector>
+#include "CKvWholeRunReport.h"
 
 /// One JSON object for the whole run.
-class CKvJsonReport : public CKvReportWriter
+class CKvJsonReport : public CKvWholeRunReport
 {
 public:
-    /// @param output must outlive the report.
-    explicit CKvJsonReport(CKvReportOutput &output)
-        : m_output(output)
-    {
-    }
+    using CKvWholeRunReport::CKvWholeRunReport;
 
-    void addDrawing(const CKvDrawingReport &report) override;
     void end(const CKvRunSummary &summary) override;
-
-private:
-    CKvReportOutput &m_output;
-    std::vector<CKvDrawingReport> m_drawings;
 };

@@ -68,11 +68,6 @@ QString differencesText(const CKvViolationReport &violation)
 
 } // namespace
 
-void CKvJunitReport::addDrawing(const CKvDrawingReport &report)
-{
-    m_drawings.push_back(report);
-}
-
 void CKvJunitReport::end(const CKvRunSummary & /*summary*/)
 {
     QString text;
@@ -82,12 +77,12 @@ void CKvJunitReport::end(const CKvRunSummary & /*summary*/)
     xml.writeStartDocument();
     xml.writeStartElement(QStringLiteral("testsuites"));
     writeAttribute(xml, "name", QStringLiteral("kvstandards"));
-    for (const CKvDrawingReport &drawing : m_drawings) {
+    for (const CKvDrawingReport &drawing : drawings()) {
         writeSuite(xml, drawing);
     }
     xml.writeEndElement();
     xml.writeEndDocument();
-    m_output.write(text);
+    output().write(text);
 }
 
 void CKvJunitReport::writeSuite(QXmlStreamWriter &xml, const CKvDrawingReport &report) const

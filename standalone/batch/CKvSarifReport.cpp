@@ -117,16 +117,11 @@ void addNotifications(Json &list, const CKvDrawingReport &drawing)
 
 } // namespace
 
-void CKvSarifReport::addDrawing(const CKvDrawingReport &report)
-{
-    m_drawings.push_back(report);
-}
-
 void CKvSarifReport::end(const CKvRunSummary &summary)
 {
     Json results = Json::array();
     Json notifications = Json::array();
-    for (const CKvDrawingReport &drawing : m_drawings) {
+    for (const CKvDrawingReport &drawing : drawings()) {
         for (const CKvViolationReport &violation : drawing.violations) {
             results.push_back(result(drawing, violation));
         }
@@ -144,5 +139,5 @@ void CKvSarifReport::end(const CKvRunSummary &summary)
     const Json report = { { "$schema", "https://json.schemastore.org/sarif-2.1.0.json" },
                           { "version", "2.1.0" },
                           { "runs", Json::array({ run }) } };
-    m_output.write(jsonText(report, 2) + '\n');
+    output().write(jsonText(report, 2) + '\n');
 }

@@ -1,25 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "CKvReportWriter.h"
-
-#include <vector>
+#include "CKvWholeRunReport.h"
 
 /// SARIF 2.1.0, which code review services show. An ignored violation is a suppressed result; what
 /// could not be done is a notification.
-class CKvSarifReport : public CKvReportWriter
+class CKvSarifReport : public CKvWholeRunReport
 {
 public:
-    /// @param output must outlive the report.
-    explicit CKvSarifReport(CKvReportOutput &output)
-        : m_output(output)
-    {
-    }
+    using CKvWholeRunReport::CKvWholeRunReport;
 
-    void addDrawing(const CKvDrawingReport &report) override;
     void end(const CKvRunSummary &summary) override;
-
-private:
-    CKvReportOutput &m_output;
-    std::vector<CKvDrawingReport> m_drawings;
 };
