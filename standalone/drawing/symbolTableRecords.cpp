@@ -4,6 +4,7 @@
 #include "CKvObjectAccess.h"
 #include "OdDbDimStyleTableRecord.h"
 #include "OdDbSymbolTableRecord.h"
+#include "impliedNames.h"
 #include "nameUses.h"
 #include "objectTags.h"
 #include "recordNames.h"
@@ -76,10 +77,18 @@ void rewriteUses(CKvDrawingStore &store,
         }
     };
     forEachUndrawnSlot(store, rewrite);
+    // What names none goes on to mean the record, which now has to be named.
+    const bool isImplied = isMeantByNone(kind, oldName);
     for (CKvObjectSlot *user : store.entities().users().usersOf(kind, oldName)) {
         if (!user->isErased) {
             rewrite(*user);
+            if (isImplied) {
+                writeImpliedName(*user, kind, newName);
+            }
         }
+    }
+    if (isImplied) {
+        writeImpliedCurrent(store, kind, newName);
     }
 }
 

@@ -68,7 +68,7 @@ protected:
     CKvDictionaryBuilder &tableStyle()
     {
         return m_drawing.namedObjects()
-            .object("ROOM TABLE", "TABLESTYLE")
+            .object("TABLESTYLE", "ROOM TABLE")
             .handle("ABC")
             .group(7, "DATA")
             .group(140, 1.0)
@@ -273,4 +273,30 @@ TEST_F(TextEntities, TheStyleOfAnotherDrawingIsRefusedForATableToo)
     const OdDbTablePtr rows(open());
 
     EXPECT_THROW(rows->setTextStyle(OdDbObjectId()), OdError);
+}
+
+TEST_F(TextEntities, ARenameOfStandardNamesItWhereItWasMeantByNoName)
+{
+    m_drawing.modelSpace().text("a");
+    m_drawing.modelSpace().text("b").textStyle("STANDARD");
+    m_drawing.modelSpace().text("c").textStyle("NOTES");
+    m_drawing.modelSpace().line();
+    m_drawing.modelSpace().leader("Standard").without(3);
+    open();
+
+    OdDbSymbolTableRecordPtr(style("Standard").openObject(OdDb::kForWrite))
+        ->setName(OdString("PLAIN"));
+    OdDbSymbolTableRecordPtr(
+        recordId(m_database->getDimStyleTableId(), "Standard").openObject(OdDb::kForWrite))
+        ->setName(OdString("PLAIN DIM"));
+
+    m_database = CKvDrawingFile::fromBytes(CKvDrawingFile::toBytes(*m_database));
+    expectStyle<OdDbText>(open(0), "PLAIN");
+    expectStyle<OdDbText>(open(1), "PLAIN");
+    expectStyle<OdDbText>(open(2), "NOTES");
+    const QByteArray bytes = CKvDrawingFile::toBytes(*m_database);
+    EXPECT_EQ(bytes.count("  7\nPLAIN\n"), 3);
+    EXPECT_EQ(bytes.count("  3\nPLAIN DIM\n"), 1);
+    EXPECT_EQ(nameOf(m_database->getTEXTSTYLE()), "PLAIN");
+    EXPECT_EQ(bytes.count("  9\n$DIMSTYLE\n  2\nPLAIN DIM\n"), 1);
 }
