@@ -93,7 +93,7 @@ void CKvLineStyleRepair::redirectUsers(OdDbObjectId targetId) const
         return;
     }
     const OdDbObjectId oldId = violating->objectId();
-    walkOwnEntities(*m_drawing, [&](const OdDbEntityPtr &entity) {
+    walkOwnEntitiesNaming(*m_drawing, oldId, [&](const OdDbEntityPtr &entity) {
         if (entity->linetypeId() == oldId) {
             entity->setLinetype(targetId, /*doSubents*/ true);
         }
