@@ -15,6 +15,7 @@ struct CKvSubclass {
 // The subclass markers (group 100) behind the common one of records and of entities.
 constexpr CKvSubclass kSubclasses[] = {
     { "APPID", "AcDbRegAppTableRecord", nullptr },
+    { "ARCALIGNEDTEXT", "AcDbArcAlignedText", nullptr },
     { "ATTDEF", "AcDbText", nullptr },
     { "ATTRIB", "AcDbText", nullptr },
     { "BLOCK_RECORD", "AcDbBlockTableRecord", nullptr },
@@ -29,6 +30,7 @@ constexpr CKvSubclass kSubclasses[] = {
     { "LWPOLYLINE", "AcDbPolyline", nullptr },
     { "MTEXT", "AcDbMText", nullptr },
     { "POLYLINE", "AcDb2dPolyline", nullptr },
+    { "RTEXT", "RText", nullptr },
     { "STYLE", "AcDbTextStyleTableRecord", nullptr },
     { "TEXT", "AcDbText", nullptr },
     { "UCS", "AcDbUCSTableRecord", nullptr },
