@@ -213,3 +213,34 @@ TEST_F(LayerLineStyleRepair, WithoutServicesTheStyleComesFromTheStandards)
 
     EXPECT_EQ(layers(), "WALLS blue CENTER -3\n");
 }
+
+TEST_F(LayerLineStyleRepair, WhatReadingTheStandardsThrowsGoesToTheCaller)
+{
+    report();
+    const CKvStdsViolation violation = violationOf("WALLS");
+    audit(m_plugin, m_database, {});
+    m_services.setFailure("/office.dxf", 9);
+    CKvString message;
+
+    try {
+        m_plugin.applyFix(violation.error, fixOf(violation, "WALLS"), message);
+        ADD_FAILURE() << "the failure was swallowed";
+    } catch (const OdError &error) {
+        EXPECT_EQ(error.code(), 9);
+    }
+    EXPECT_EQ(layers(), "WALLS red Continuous -3\n");
+}
+
+TEST_F(LayerLineStyleRepair, CandidatesAreCollectedWithoutReadingAFile)
+{
+    report();
+    m_services.setFailure("/office.dxf", 9);
+    OdArray<CKvStdsFixPtr> fixes;
+    std::int32_t recommended = -1;
+
+    m_plugin.collectFixes(violationOf("WALLS").error, fixes, recommended);
+
+    EXPECT_TRUE(m_services.calls().empty());
+    EXPECT_EQ(fixesText(fixes), "WALLS@/office.dxf\n");
+    EXPECT_EQ(recommended, 0);
+}

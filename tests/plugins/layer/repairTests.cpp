@@ -248,6 +248,21 @@ TEST_F(LayerRepair, ARenameThatTheDrawingRefusesGoesToTheCaller)
     EXPECT_EQ(namesText(m_database->getLayerTableId()), "0\n");
 }
 
+TEST_F(LayerRepair, TheEmptyNameOfAStandardIsRefusedAsAName)
+{
+    m_drawing.layer("WALL").color(1);
+    m_office.layer("").color(5);
+    EXPECT_EQ(report(), "WALL: Layer name is non-standard. @/office.dxf\n");
+
+    try {
+        repair("WALL", "");
+        ADD_FAILURE() << "renamed to nothing";
+    } catch (const OdError &error) {
+        EXPECT_EQ(error.code(), int(OdResult::kInvalidInput));
+    }
+    EXPECT_EQ(namesText(m_database->getLayerTableId()), "WALL\n");
+}
+
 TEST_F(LayerRepair, ATrueColorAndItsBookComeOver)
 {
     m_drawing = CKvDrawingBuilder("AC1018");

@@ -281,3 +281,16 @@ TEST_F(LayerScan, AnOldDrawingWithoutHandlesIsJudgedLikeAnyOther)
 
     EXPECT_EQ(report(), "WALLS: Layer properties are non-standard. WALLS@/office.dxf*\n");
 }
+
+TEST_F(LayerScan, AnObjectThatOnlyBearsTheNameOfTheCategoryIsRefused)
+{
+    m_drawing.layer("WALLS");
+    m_drawing.namedObjects().object("LAYER", "ODD").handle("ABC");
+    m_office.layer("DOORS");
+    report();
+    OdDbObjectIdArray ids;
+    ids.append(m_database->getOdDbObjectId(OdDbHandle(0xABC)));
+    ASSERT_FALSE(ids.first().isNull());
+
+    EXPECT_THROW(m_plugin.setObjectsToCheck(ids, /*scanAll*/ false), OdError_NotThatKindOfClass);
+}

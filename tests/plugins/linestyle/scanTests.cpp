@@ -244,3 +244,16 @@ TEST_F(LineStyleScan, AnObjectOfAnotherClassIsPassedOver)
     EXPECT_EQ(violationsText(audit(m_plugin, m_database, { QStringLiteral("/office.dxf") }, ids)),
               "OTHER: LineStyle name is non-standard. DASHED@/office.dxf\n");
 }
+
+TEST_F(LineStyleScan, AnObjectThatOnlyBearsTheNameOfTheCategoryIsRefused)
+{
+    m_drawing.lineStyle("MINE");
+    m_drawing.namedObjects().object("LTYPE", "ODD").handle("ABC");
+    m_office.lineStyle("NOTES");
+    report();
+    OdDbObjectIdArray ids;
+    ids.append(m_database->getOdDbObjectId(OdDbHandle(0xABC)));
+    ASSERT_FALSE(ids.first().isNull());
+
+    EXPECT_THROW(m_plugin.setObjectsToCheck(ids, /*scanAll*/ false), OdError_NotThatKindOfClass);
+}
