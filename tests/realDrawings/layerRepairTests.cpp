@@ -1,28 +1,18 @@
 // SPDX-License-Identifier: MIT
-#include "CKvContractClasses.h"
 #include "CKvDrawingFile.h"
-#include "CKvDxfError.h"
 #include "CKvLayerPluginImpl.h"
-#include "CKvStandaloneServices.h"
+#include "CKvRealDrawingTest.h"
 #include "OdDbBlockTable.h"
 #include "OdDbBlockTableRecord.h"
 #include "OdDbLayerTable.h"
 #include "OdDbLayerTableRecord.h"
 #include "OdDbLinetypeTable.h"
-#include "auditText.h"
 #include "realDrawings.h"
 
 #include <QFile>
-#include <QFileInfo>
-#include <QMap>
-#include <QProcess>
 #include <QSet>
-#include <QTemporaryDir>
-
-#include <gtest/gtest.h>
 
 #include <algorithm>
-#include <functional>
 
 namespace
 {
@@ -32,23 +22,12 @@ OdDbLayerTablePtr layersOf(const OdDbDatabasePtr &drawing)
     return OdDbLayerTablePtr(drawing->getLayerTableId().openObject());
 }
 
-/// Drawings of R2000 and newer, opened anew at each call; those that can't be read are not in the
-/// list.
+/// Drawings of R2000 and newer with layers.
 QStringList newerDrawings()
 {
-    QStringList paths;
-    for (const QString &path : realDrawings()) {
-        try {
-            const OdDbDatabasePtr drawing = CKvDrawingFile::open(path);
-            if (CKvDrawingFile::version(*drawing) >= QLatin1String("AC1015")
-                && !layersOf(drawing)->newIterator()->done()) {
-                paths.append(path);
-            }
-        } catch (const CKvDxfError &) {
-            continue;
-        }
-    }
-    return paths;
+    return drawingsFrom("AC1015", [](const OdDbDatabasePtr &drawing) {
+        return !layersOf(drawing)->newIterator()->done();
+    });
 }
 
 /// The drawing itself as a standard, after a change.
@@ -85,85 +64,17 @@ QMap<QString, int> entitiesByLayer(const OdDbDatabasePtr &drawing)
     return counts;
 }
 
-/// Lines of one file that the other does not have, each as often as it is missing.
-QMap<QByteArray, int> missingLines(const QByteArray &from, const QByteArray &in)
+class CKvLayerRepairOnRealDrawings : public CKvRealDrawings
 {
-    QMap<QByteArray, int> counts;
-    for (const QByteArray &line : from.split('\n')) {
-        ++counts[line.trimmed()];
-    }
-    for (const QByteArray &line : in.split('\n')) {
-        --counts[line.trimmed()];
-    }
-    for (auto count = counts.begin(); count != counts.end();) {
-        count = count.value() > 0 ? std::next(count) : counts.erase(count);
-    }
-    return counts;
-}
-
-struct CKvLayerRepairOnRealDrawings : testing::Test {
-    QString fileIn(const QString &drawing, const QString &what)
-    {
-        const QString name =
-            QString::number(++m_files) + QLatin1Char('-') + QFileInfo(drawing).completeBaseName();
-        return folder.filePath(QString(name + QLatin1Char('-') + what + QStringLiteral(".dxf")));
-    }
-    /// Repairs what the audit finds, each violation with the candidate that choose gives (-1:
-    /// none).
+protected:
     OdDbDatabasePtr repaired(const QString &path,
                              const QString &standards,
                              const std::function<int(const CKvStdsViolation &)> &choose)
     {
-        OdDbDatabasePtr drawing = CKvDrawingFile::open(path);
-        repairs = 0;
-        for (const CKvStdsViolation &violation : audit(plugin, drawing, { standards })) {
-            const int choice = choose(violation);
-            if (choice >= 0 && !violation.error->objectId().isErased()) {
-                CKvString message;
-                plugin.applyFix(violation.error, violation.fixes[unsigned(choice)], message);
-                ++repairs;
-            }
-        }
-        return drawing;
-    }
-    void keepForAudit(const QString &before, const OdDbDatabasePtr &drawing)
-    {
-        const QString after = fileIn(before, QStringLiteral("after"));
-        CKvDrawingFile::save(*drawing, after);
-        pairs.append(QString(before + QLatin1Char('\t') + after));
-    }
-    void expectNoNewErrors()
-    {
-        QProcess python;
-        python.start(QStringLiteral(KV_PYTHON), { QStringLiteral(KV_COMPARE_AUDITS) });
-        if (!python.waitForStarted()) {
-            GTEST_SKIP() << "python3 is missing; the audits were not compared";
-        }
-        python.write(pairs.join(QLatin1Char('\n')).toUtf8());
-        python.closeWriteChannel();
-        ASSERT_TRUE(python.waitForFinished(280000));
-        const QByteArray complaints = python.readAllStandardError();
-        if (complaints.contains("No module named 'ezdxf'")) {
-            GTEST_SKIP() << "python3-ezdxf is missing; the audits were not compared";
-        }
-        const QStringList lines =
-            QString::fromUtf8(python.readAllStandardOutput()).trimmed().split(QLatin1Char('\n'));
-        EXPECT_EQ(lines.size(), 1)
-            << lines.join(QLatin1Char('\n')).toStdString() << complaints.toStdString();
-        EXPECT_FALSE(lines.last().startsWith(QLatin1String("0 compared")))
-            << lines.last().toStdString();
-        std::printf("%s\n", qPrintable(lines.last()));
+        return repairedBy(plugin, path, standards, choose);
     }
 
-    CKvContractClasses classes;
-    CKvStandaloneServices services;
     CKvLayerPluginImpl plugin;
-    QTemporaryDir folder;
-    QStringList pairs;
-    int repairs = 0;
-
-private:
-    int m_files = 0;
 };
 
 } // namespace
@@ -200,7 +111,7 @@ TEST_F(CKvLayerRepairOnRealDrawings, InPlaceOnlyTheValuesOfTheLayersChange)
         for (const int count : missingLines(before, after)) {
             lost += count;
         }
-        EXPECT_LE(lost, 4 * repairs);
+        EXPECT_LE(lost, 4 * m_repairs);
     }
     expectNoNewErrors();
 }
