@@ -5,7 +5,8 @@ set -euo pipefail
 
 packages=(
   ca-certificates ccache clang clang-format clang-tidy cmake g++ git libbenchmark-dev libcli11-dev
-  libgmock-dev libgtest-dev ninja-build nlohmann-json3-dev python3 python3-ezdxf qtbase5-dev
+  libclang-rt-14-dev libgmock-dev libgtest-dev librapidcheck-dev ninja-build nlohmann-json3-dev
+  python3 python3-ezdxf qtbase5-dev zlib1g-dev
 )
 
 missing=()

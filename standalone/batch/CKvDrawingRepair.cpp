@@ -66,6 +66,11 @@ std::string_view CKvDrawingRepair::before() const
     return m_drawing->store().image()->bytes();
 }
 
+std::string_view CKvDrawingRepair::fileBefore() const
+{
+    return m_drawing->store().image()->fileBytes();
+}
+
 CKvDrawingRepair::Plan CKvDrawingRepair::plan(const CKvDrawingCheck &check,
                                               const CKvStdsViolation &violation)
 {

@@ -23,8 +23,10 @@ public:
 
     /// Never null once run has ended.
     const OdDbDatabasePtr &drawing() const { return m_drawing; }
-    /// The file as it was read.
+    /// The drawing as it was read.
     std::string_view before() const;
+    /// The file as it was read, packed where it is packed.
+    std::string_view fileBefore() const;
 
 private:
     /// What is to be done about one violation.

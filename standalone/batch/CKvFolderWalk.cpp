@@ -34,8 +34,10 @@ QString nameOf(const fs::path &path, bool &isReadable)
 
 bool isCalledLikeADrawing(const QString &name)
 {
-    return name.endsWith(QLatin1String(".dxf"), Qt::CaseInsensitive)
-        || name.endsWith(QLatin1String(".dws"), Qt::CaseInsensitive);
+    const bool isPacked = name.endsWith(QLatin1String(".gz"), Qt::CaseInsensitive);
+    const QString unpacked = isPacked ? name.chopped(3) : name;
+    return unpacked.endsWith(QLatin1String(".dxf"), Qt::CaseInsensitive)
+        || unpacked.endsWith(QLatin1String(".dws"), Qt::CaseInsensitive);
 }
 
 } // namespace

@@ -48,7 +48,7 @@ QString writeRepairedDrawing(const CKvDrawingRepair &repair,
         return {};
     }
     if (isInPlace && keepsBackup) {
-        writeBackup(repair.before(), path);
+        writeBackup(repair.fileBefore(), path);
     }
     requireFolder(file);
     CKvDrawingFile::save(*repair.drawing(), file);

@@ -12,6 +12,7 @@
 class CKvDrawingFile
 {
 public:
+    /// A packed drawing (gzip) is unpacked; a DWG file is read when there is a program dwg2dxf.
     /// @throws CKvDxfError with file, line and reason: no such file, no permission, not a drawing,
     /// damaged.
     static OdDbDatabasePtr open(const QString &path,
@@ -21,10 +22,12 @@ public:
     /// @throws CKvDxfError as open.
     static OdDbDatabasePtr fromBytes(const QByteArray &bytes, const QString &name = QString());
 
-    /// The drawing as a file: what was not changed is as it was, byte for byte.
+    /// The drawing as a file that is not packed: what was not changed is as it was, byte for byte.
     static QByteArray toBytes(const OdDbDatabase &drawing);
-    /// Replaces the file atomically or not at all.
-    /// @throws CKvDxfError; the old file is then as it was.
+    /// Replaces the file atomically or not at all. A name that ends in .gz is packed, and so is a
+    /// drawing that was packed under a name that doesn't.
+    /// @throws CKvDxfError, also when the path is that of the drawing's own file and somebody has
+    /// changed it since, or it is a DWG file; the old file is then as it was.
     static void save(const OdDbDatabase &drawing, const QString &path);
 
     /// True when saving would write other bytes than were read.

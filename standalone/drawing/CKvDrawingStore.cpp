@@ -8,7 +8,8 @@
 #include <algorithm>
 
 CKvDrawingStore::CKvDrawingStore(CKvFileImagePtr image, const CKvDrawingFormat &format)
-    : m_image(std::move(image))
+    : ownFile(image->identity())
+    , m_image(std::move(image))
     , m_format(format)
     , m_header(&makeSlot(CKvObjectSlot::Role::Header, "HEADER"))
 {

@@ -13,6 +13,7 @@
 #include <array>
 #include <deque>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -98,6 +99,9 @@ public:
     /// read.
     CKvObjectSlot *slotBehind(const CKvObjectSlot &slot);
 
+    /// The file that the drawing was read from as it was then, or when it was last saved there;
+    /// nothing for a drawing from memory.
+    std::optional<CKvFileIdentity> ownFile;
     OdDbDatabase *database = nullptr;
     std::vector<OdDbDatabaseReactor *> reactors;
 

@@ -54,8 +54,33 @@ CKvDrawingWriter::CKvDrawingWriter(CKvDrawingStore &store)
     addTables();
     addObjectsSection();
     const auto isBefore = [](const Edit &a, const Edit &b) { return a.begin < b.begin; };
-    if (!std::is_sorted(m_edits.begin(), m_edits.end(), isBefore)) {
-        std::stable_sort(m_edits.begin(), m_edits.end(), isBefore);
+    std::stable_sort(m_edits.begin(), m_edits.end(), isBefore);
+    const auto standsBefore = [](const CKvObjectSlot *a, const CKvObjectSlot *b) {
+        return a->begin < b->begin;
+    };
+    // A million of them as a rule come in the order of the file.
+    if (!std::is_sorted(m_moved.begin(), m_moved.end(), standsBefore)) {
+        std::sort(m_moved.begin(), m_moved.end(), standsBefore);
+    }
+}
+
+CKvDrawingWriter::Edit CKvDrawingWriter::moveOf(const CKvObjectSlot &slot) const
+{
+    const std::size_t begin = slot.begin + slot.layerAt;
+    return { begin, begin + slot.layerSize, m_store.movedLayerName(slot) };
+}
+
+template <class Action> void CKvDrawingWriter::forEachEdit(Action action) const
+{
+    auto moved = m_moved.begin();
+    for (const Edit &edit : m_edits) {
+        for (; moved != m_moved.end() && (*moved)->begin < edit.begin; ++moved) {
+            action(moveOf(**moved));
+        }
+        action(edit);
+    }
+    for (; moved != m_moved.end(); ++moved) {
+        action(moveOf(**moved));
     }
 }
 
@@ -116,15 +141,13 @@ void CKvDrawingWriter::addEdit(const CKvObjectSlot &slot)
         }
         return;
     }
-    const std::string_view file = m_store.image()->bytes();
-    const std::string_view inFile = file.substr(slot.begin, slot.end - slot.begin);
+    const std::string_view inFile =
+        m_store.image()->bytes().substr(slot.begin, slot.end - slot.begin);
     if (slot.isErased) {
         m_edits.push_back({ slot.begin, slot.end, {} });
     } else if (slot.movedTo != 0) {
-        const std::size_t begin = slot.begin + slot.layerAt;
-        const std::string_view name = m_store.movedLayerName(slot);
-        if (file.substr(begin, slot.layerSize) != name) {
-            m_edits.push_back({ begin, begin + slot.layerSize, name });
+        if (inFile.substr(slot.layerAt, slot.layerSize) != m_store.movedLayerName(slot)) {
+            m_moved.push_back(&slot);
         }
     } else if (slot.role != CKvObjectSlot::Role::TableHead && bytesOf(slot) != inFile) {
         m_edits.push_back({ slot.begin, slot.end, bytesOf(slot) });
@@ -245,7 +268,7 @@ void CKvDrawingWriter::addObjectsSection()
 
 void CKvDrawingWriter::write(const Sink &sink) const
 {
-    constexpr std::size_t kMostGathered = 1 << 18;
+    constexpr std::size_t kMostGathered = 1 << 16;
     const std::string_view file = m_store.image()->bytes();
     std::string gathered;
     gathered.reserve(kMostGathered);
@@ -262,11 +285,11 @@ void CKvDrawingWriter::write(const Sink &sink) const
         }
     };
     std::size_t written = 0;
-    for (const Edit &edit : m_edits) {
+    forEachEdit([&](const Edit &edit) {
         put(file.substr(written, edit.begin - written));
         put(edit.bytes);
         written = edit.end;
-    }
+    });
     put(file.substr(written));
     sink(gathered);
 }
@@ -274,8 +297,6 @@ void CKvDrawingWriter::write(const Sink &sink) const
 std::size_t CKvDrawingWriter::size() const
 {
     std::size_t size = m_store.image()->bytes().size();
-    for (const Edit &edit : m_edits) {
-        size += edit.bytes.size() - (edit.end - edit.begin);
-    }
+    forEachEdit([&](const Edit &edit) { size += edit.bytes.size() - (edit.end - edit.begin); });
     return size;
 }

@@ -20,7 +20,7 @@ public:
     explicit CKvDrawingWriter(CKvDrawingStore &store);
 
     /// False when the file would be written as it was read.
-    bool isChanged() const { return !m_edits.empty(); }
+    bool isChanged() const { return !m_edits.empty() || !m_moved.empty(); }
     /// Takes the next piece of the file.
     using Sink = std::function<void(std::string_view)>;
     /// Gives the file in pieces of a size that is worth a call.
@@ -36,6 +36,9 @@ private:
         std::string_view bytes;
     };
 
+    Edit moveOf(const CKvObjectSlot &slot) const;
+    /// In the order of the file.
+    template <class Action> void forEachEdit(Action action) const;
     void clearPointersToErased();
     std::string_view bytesOf(const CKvObjectSlot &slot) const;
     void addEdit(const CKvObjectSlot &slot);
@@ -48,6 +51,8 @@ private:
 
     CKvDrawingStore &m_store;
     std::vector<Edit> m_edits;
+    /// Entities in which nothing but the layer is another: these can be very many.
+    std::vector<const CKvObjectSlot *> m_moved;
     std::deque<std::string> m_made;
     std::map<const CKvObjectSlot *, std::string> m_newTables;
     /// Objects whose pointers to erased ones are written as 0.

@@ -11,6 +11,9 @@
 namespace
 {
 
+/// So many show how long the others will be.
+constexpr std::size_t kFirstEntities = 1024;
+
 bool isPartOfEntityBefore(std::string_view type)
 {
     return type == "VERTEX" || type == "SEQEND";
@@ -69,26 +72,26 @@ CKvObjectSlot &CKvEntityIndex::makeSlot(const CKvObjectOutline &outline)
 void CKvEntityIndex::add(CKvObjectSlot &slot)
 {
     m_all.push_back(&slot);
-    if (slot.handle != 0) {
-        m_isSorted = m_isSorted && (m_byHandle.empty() || m_byHandle.back().first < slot.handle);
-        m_byHandle.emplace_back(slot.handle, &slot);
-        m_largestHandle = std::max(m_largestHandle, slot.handle);
-    }
+    m_largestHandle = std::max(m_largestHandle, slot.handle);
 }
 
 CKvObjectSlot *CKvEntityIndex::findByHandle(std::uint64_t handle)
 {
-    const auto isLess = [](const auto &a, const auto &b) { return a.first < b.first; };
-    if (!m_isSorted) {
+    if (m_byHandle.size() != m_all.size()) {
+        m_byHandle = m_all;
+        const auto isBefore = [](const CKvObjectSlot *a, const CKvObjectSlot *b) {
+            return a->handle < b->handle;
+        };
         // Stable, so that of two objects with one handle the first of the file is found.
-        std::stable_sort(m_byHandle.begin(), m_byHandle.end(), isLess);
-        m_isSorted = true;
+        std::stable_sort(m_byHandle.begin(), m_byHandle.end(), isBefore);
     }
-    const auto found = std::lower_bound(m_byHandle.begin(),
-                                        m_byHandle.end(),
-                                        std::pair<std::uint64_t, CKvObjectSlot *>(handle, nullptr),
-                                        isLess);
-    return found != m_byHandle.end() && found->first == handle ? found->second : nullptr;
+    const auto found = std::lower_bound(
+        m_byHandle.begin(),
+        m_byHandle.end(),
+        handle,
+        [](const CKvObjectSlot *slot, std::uint64_t wanted) { return slot->handle < wanted; });
+    return handle != 0 && found != m_byHandle.end() && (*found)->handle == handle ? *found
+                                                                                  : nullptr;
 }
 
 CKvObjectSlot &CKvEntityIndex::space(bool isPaper)
@@ -141,12 +144,26 @@ void CKvEntityIndex::readBlocks(CKvSectionReader &reader)
     m_blocksEnd = reader.contentEnd();
 }
 
+void CKvEntityIndex::makeRoom(CKvBlockContents &contents,
+                              const CKvObjectOutline &outline,
+                              std::size_t begin,
+                              std::size_t end)
+{
+    // Growing step by step would copy the lists over and over.
+    const std::size_t read = outline.end - begin;
+    const std::size_t left = end > outline.end ? end - outline.end : 0;
+    const std::size_t expected = left / (read / kFirstEntities + 1);
+    m_all.reserve(m_all.size() + expected);
+    contents.entities.reserve(contents.entities.size() + expected);
+}
+
 void CKvEntityIndex::readEntities(CKvSectionReader &reader)
 {
     CKvObjectOutline outline;
     CKvObjectSlot *block = nullptr;
     std::uint64_t lastOwner = 0;
     CKvBlockContents *contents = nullptr;
+    std::size_t count = 0;
     while (reader.nextObject(outline)) {
         CKvObjectSlot &slot = makeSlot(outline);
         const bool isPart = slot.role == CKvObjectSlot::Role::SubEntity || outline.type == "ATTRIB";
@@ -160,5 +177,8 @@ void CKvEntityIndex::readEntities(CKvSectionReader &reader)
         }
         contents->entities.push_back(&slot);
         slot.owner = block;
+        if (++count == kFirstEntities) {
+            makeRoom(*contents, outline, reader.contentBegin(), reader.end());
+        }
     }
 }

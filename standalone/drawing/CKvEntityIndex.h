@@ -44,14 +44,19 @@ private:
     CKvObjectSlot &makeSlot(const CKvObjectOutline &outline);
     CKvObjectSlot &blockFor(CKvObjectSlot &begin, const CKvObjectOutline &outline);
     CKvObjectSlot &space(bool isPaper);
+    /// Makes room for as many entities as the bytes to the end will hold.
+    void makeRoom(CKvBlockContents &contents,
+                  const CKvObjectOutline &outline,
+                  std::size_t begin,
+                  std::size_t end);
 
     CKvDrawingStore &m_store;
     CKvUserIndex m_users;
     CKvObjectSlot *m_spaces[2] = {};
     std::unordered_map<const CKvObjectSlot *, CKvBlockContents> m_contents;
     std::vector<CKvObjectSlot *> m_all;
-    std::vector<std::pair<std::uint64_t, CKvObjectSlot *>> m_byHandle;
-    bool m_isSorted = true;
+    /// By handle, and where that is the same in the order of the file; made when somebody asks.
+    std::vector<CKvObjectSlot *> m_byHandle;
     std::size_t m_blocksEnd = 0;
     std::uint64_t m_largestHandle = 0;
 };

@@ -19,7 +19,6 @@ struct CKvDefaultName {
 
 constexpr CKvDefaultName kDefaultNames[] = {
     { CKvTableKind::Layer, "0" },
-    { CKvTableKind::Linetype, "ByLayer" },
     { CKvTableKind::TextStyle, "Standard" },
     { CKvTableKind::DimStyle, "Standard" },
 };
@@ -48,7 +47,9 @@ void CKvUserIndex::noteRead(CKvObjectSlot &slot, const CKvObjectOutline &outline
         return;
     }
     users(CKvTableKind::Layer).add(outline.layer.value_or("0"), slot);
-    users(CKvTableKind::Linetype).add(outline.lineStyle.value_or("ByLayer"), slot);
+    if (outline.lineStyle) {
+        users(CKvTableKind::Linetype).add(*outline.lineStyle, slot);
+    }
 }
 
 void CKvUserIndex::noteChange(CKvObjectSlot &slot)
@@ -82,9 +83,8 @@ void CKvUserIndex::lookThrough(CKvObjectSlot &slot)
         }
     }
     for (const CKvDefaultName &meant : kDefaultNames) {
-        const bool isOfAll =
-            meant.kind == CKvTableKind::Layer || meant.kind == CKvTableKind::Linetype;
-        if (!isNamed[std::size_t(meant.kind)] && (isOfAll || namesRecordOf(type, meant.kind))) {
+        const bool isMeant = meant.kind == CKvTableKind::Layer || namesRecordOf(type, meant.kind);
+        if (!isNamed[std::size_t(meant.kind)] && isMeant) {
             users(meant.kind).add(meant.name, slot);
         }
     }

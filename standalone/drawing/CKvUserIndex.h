@@ -32,7 +32,8 @@ public:
     void noteLayer(CKvObjectSlot &slot, std::string_view encodedName);
 
     /// Who may name a record of that name, in the order of the file. What names nothing counts for
-    /// the record that is meant then: layer 0, line style ByLayer, the styles Standard.
+    /// the record that is meant then: layer 0, the styles Standard; but not line style ByLayer,
+    /// which nearly all mean.
     std::vector<CKvObjectSlot *> usersOf(CKvTableKind kind, const QString &name);
     /// Who may hold that handle in a group that keeps its object, or in extended data (1005).
     std::vector<CKvObjectSlot *> holdersOf(std::uint64_t handle);

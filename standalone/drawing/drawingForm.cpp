@@ -2,6 +2,7 @@
 #include "drawingForm.h"
 
 #include "CKvDxfError.h"
+#include "dwgConversion.h"
 
 namespace
 {
@@ -46,11 +47,8 @@ CKvFileForm recognisedForm(const CKvFileImage &image)
     if (trimmed(bytes).empty()) {
         refuse(QStringLiteral("The file is empty."));
     }
-    if (startsWith(bytes, "AC10") || startsWith(bytes, "AC1.") || startsWith(bytes, "AC2.")) {
+    if (isDwg(bytes)) {
         refuse(QStringLiteral("This is a DWG file. Save it as DXF and try again."));
-    }
-    if (startsWith(bytes, "\x1f\x8b")) {
-        refuse(QStringLiteral("The file is packed with gzip. Unpack it and try again."));
     }
     if (startsWith(bytes, "\xFF\xFE") || startsWith(bytes, "\xFE\xFF")) {
         refuse(QStringLiteral("The file is in UTF-16, which is no form of DXF."));

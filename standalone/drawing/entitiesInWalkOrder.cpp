@@ -62,8 +62,12 @@ std::vector<CKvObjectSlot *> entitiesInWalkOrder(CKvDrawingStore &store,
     if (!kind) {
         return {};
     }
+    const QString name = recordName(*record);
+    const bool isMeantByNearlyAll =
+        *kind == CKvTableKind::Linetype && foldedName(name) == QLatin1String("bylayer");
+    CKvEntityIndex &index = store.entities();
     std::vector<CKvObjectSlot *> entities =
-        store.entities().users().usersOf(*kind, recordName(*record));
+        isMeantByNearlyAll ? index.all() : index.users().usersOf(*kind, name);
     entities.erase(std::remove_if(entities.begin(),
                                   entities.end(),
                                   [](const CKvObjectSlot *slot) {

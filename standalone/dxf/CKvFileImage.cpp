@@ -2,6 +2,8 @@
 #include "CKvFileImage.h"
 
 #include "CKvDxfError.h"
+#include "CKvImageRegistry.h"
+#include "gzip.h"
 
 #include <QFileInfo>
 
@@ -56,35 +58,70 @@ CKvFileImage::~CKvFileImage() = default;
 CKvFileImagePtr CKvFileImage::open(const QString &path, Holding holding)
 {
     requireOrdinaryFile(path);
+    CKvImageRegistry &registry = CKvImageRegistry::ofThisProcess();
+    if (const std::optional<CKvFileIdentity> identity = CKvFileIdentity::ofPath(path)) {
+        if (CKvFileImagePtr known = registry.find(path, holding, *identity)) {
+            return known;
+        }
+    }
     const std::shared_ptr<CKvFileImage> image(new CKvFileImage(path));
-    QFile &file = image->m_file;
-    file.setFileName(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        throw CKvDxfError(
-            path, 0, QStringLiteral("The file can't be opened: %1.").arg(file.errorString()));
-    }
-    const qint64 size = file.size();
-    const uchar *mapped = holding == Holding::Mapped && size > 0 ? file.map(0, size) : nullptr;
-    if (mapped) {
-        image->m_bytes = { reinterpret_cast<const char *>(mapped), std::size_t(size) };
-    } else {
-        // Also what some file systems give in place of a mapping.
-        image->m_copy = readWhole(file, path);
-        image->m_bytes = { image->m_copy.constData(), std::size_t(image->m_copy.size()) };
-    }
-    // A mapping outlives the closing; a check of many drawings would run out of open files.
-    file.close();
+    image->read(holding);
     if (image->m_bytes.empty()) {
         throw CKvDxfError(path, 0, QStringLiteral("The file is empty."));
     }
+    registry.enter(image);
     return image;
+}
+
+void CKvFileImage::read(Holding holding)
+{
+    m_file.setFileName(m_path);
+    if (!m_file.open(QIODevice::ReadOnly)) {
+        throw CKvDxfError(
+            m_path, 0, QStringLiteral("The file can't be opened: %1.").arg(m_file.errorString()));
+    }
+    // Before the first byte: a change meanwhile shows as one behind it.
+    m_identity = CKvFileIdentity::ofOpenFile(m_file.handle());
+    const qint64 size = m_file.size();
+    uchar *mapped = holding == Holding::Mapped && size > 0 ? m_file.map(0, size) : nullptr;
+    m_bytes = { reinterpret_cast<const char *>(mapped), mapped ? std::size_t(size) : 0 };
+    m_isMapped = mapped && !::isPacked(m_bytes);
+    if (!m_isMapped) {
+        // Also what some file systems give in place of a mapping.
+        takeBytes(readWhole(m_file, m_path));
+        if (mapped) {
+            m_file.unmap(mapped);
+        }
+    }
+    // A mapping outlives the closing; a check of many drawings would run out of open files.
+    m_file.close();
+}
+
+void CKvFileImage::takeBytes(const QByteArray &bytes)
+{
+    m_copy = bytes;
+    m_bytes = { m_copy.constData(), std::size_t(m_copy.size()) };
+    m_isPacked = ::isPacked(m_bytes);
+    if (m_isPacked) {
+        m_packed = bytes;
+        m_copy = unpacked(m_bytes, m_path);
+        m_bytes = { m_copy.constData(), std::size_t(m_copy.size()) };
+    }
 }
 
 CKvFileImagePtr CKvFileImage::fromBytes(const QByteArray &bytes, const QString &name)
 {
     const std::shared_ptr<CKvFileImage> image(new CKvFileImage(name));
-    image->m_copy = bytes;
-    image->m_bytes = { image->m_copy.constData(), std::size_t(image->m_copy.size()) };
+    image->takeBytes(bytes);
+    return image;
+}
+
+CKvFileImagePtr CKvFileImage::fromConverted(const QByteArray &bytes, const CKvFileImage &original)
+{
+    const std::shared_ptr<CKvFileImage> image(new CKvFileImage(original.path()));
+    image->m_isConverted = true;
+    image->m_identity = original.identity();
+    image->takeBytes(bytes);
     return image;
 }
 

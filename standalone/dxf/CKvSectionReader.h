@@ -59,6 +59,8 @@ public:
     void leaveSection() { m_isInSection = false; }
 
     std::size_t position() const { return m_reader.position(); }
+    /// Offset behind the bytes that are read.
+    std::size_t end() const { return m_end; }
     bool hasSeenEof() const { return m_hasSeenEof; }
     /// The EOF mark, or the next section, stands where the section that was read last should end.
     bool isLastSectionOpen() const { return m_isLastSectionOpen; }

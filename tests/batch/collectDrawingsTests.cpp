@@ -44,10 +44,12 @@ TEST_F(CollectDrawings, AFolderGivesItsDrawingsByName)
     makeFile("sub/deep/a.dxf");
     makeFile("a.dwg");
     makeFile("dxf");
+    makeFile("d.dxf.gz");
+    makeFile("e.gz");
 
-    EXPECT_EQ(
-        collected({ folder.path() }),
-        "/a.dws -> a.dws\n/b.dxf -> b.dxf\n/c.DWS -> c.DWS\n/sub/deep/a.dxf -> sub/deep/a.dxf\n");
+    EXPECT_EQ(collected({ folder.path() }),
+              "/a.dws -> a.dws\n/b.dxf -> b.dxf\n/c.DWS -> c.DWS\n/d.dxf.gz -> d.dxf.gz\n"
+              "/sub/deep/a.dxf -> sub/deep/a.dxf\n");
     EXPECT_EQ(collected({ folder.path() + QStringLiteral("/sub/") }),
               "/sub/deep/a.dxf -> deep/a.dxf\n");
 }

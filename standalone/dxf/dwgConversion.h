@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+#include <optional>
+#include <string_view>
+
+/// @return true for bytes that begin as a DWG file does.
+bool isDwg(std::string_view bytes);
+
+/// Lets the program dwg2dxf read a DWG file.
+/// @return the drawing as DXF; nothing when there is no such program on the path.
+/// @throws CKvDxfError when the program fails.
+std::optional<QByteArray> convertedDwg(const QString &path);
