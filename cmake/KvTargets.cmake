@@ -94,7 +94,9 @@ function(kv_add_module)
   add_library(${ARG_NAME} MODULE ${ARG_SOURCES} ${ARG_HEADERS})
   kv_set_compile_rules(${ARG_NAME})
   set(MAP ${CMAKE_CURRENT_SOURCE_DIR}/${ARG_EXPORTS})
-  set_target_properties(${ARG_NAME} PROPERTIES PREFIX "" LINK_DEPENDS ${MAP})
+  # Beside the programs, where those that load it look.
+  set_target_properties(${ARG_NAME} PROPERTIES PREFIX "" LINK_DEPENDS ${MAP}
+                                               LIBRARY_OUTPUT_DIRECTORY ${CMAKE_RUNTIME_OUTPUT_DIRECTORY})
   target_link_options(${ARG_NAME} PRIVATE -Wl,--version-script=${MAP})
   target_link_libraries(${ARG_NAME} PRIVATE ${ARG_DEPENDS})
 endfunction()

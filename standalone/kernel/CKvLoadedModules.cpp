@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "CKvLoadedModules.h"
 
+#include "CKvForeignMemory.h"
 #include "OdError.h"
 
 #include <QDir>
@@ -78,6 +79,7 @@ void undoStart(OdRxModule &module)
 /// file.
 std::optional<OdError> failureOfStart(OdRxModule &module)
 {
+    const CKvForeignMemory foreign;
     try {
         module.initApp();
         return std::nullopt;

@@ -1,0 +1,120 @@
+// SPDX-License-Identifier: MIT
+#include "CKvInteractiveTest.h"
+
+#include "CKvDrawingBuilder.h"
+#include "OdDbLayerTable.h"
+#include "OdDbLayerTableRecord.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QEventLoop>
+#include <QLabel>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTimer>
+
+CKvInteractiveTest::CKvInteractiveTest()
+{
+    const QString office = folder.filePath(QStringLiteral("office.dws"));
+    CKvDrawingBuilder standard;
+    standard.withReservedLineStyles().layer("WALLS").color(1);
+    standard.saveTo(office);
+    CKvDrawingBuilder drawing;
+    drawing.withReservedLineStyles();
+    drawing.layer("WALLS").color(1);
+    drawing.layer("DOORS").color(2);
+    drawing.standardsFiles({ office });
+    const QString path = folder.filePath(QStringLiteral("plan.dxf"));
+    drawing.saveTo(path);
+    session->settings().setStandardsViolation(1);
+    session->documentManager()->open(path);
+    session->commands().addReactor(&log);
+    start();
+}
+
+CKvInteractiveTest::~CKvInteractiveTest()
+{
+    session->commands().removeReactor(&log);
+}
+
+void CKvInteractiveTest::recolorBare()
+{
+    m_edit.executeCommand(session->documentManager()->active()->commandContext());
+}
+
+int CKvInteractiveTest::colorOfWalls()
+{
+    const OdDbDatabase &database = *session->documentManager()->active()->GetKvDatabase();
+    const OdDbLayerTablePtr layers(database.getLayerTableId().openObject());
+    const OdDbLayerTableRecordPtr walls(layers->getAt(OdString("WALLS")).openObject());
+    return walls->color().colorIndex();
+}
+
+void CKvInteractiveTest::press(const QDialog &dialog, QDialogButtonBox::StandardButton which)
+{
+    dialog.findChild<QDialogButtonBox *>(QStringLiteral("buttonBox"))->button(which)->click();
+}
+
+void CKvInteractiveTest::click(const QDialog &dialog, const char *buttonName)
+{
+    dialog.findChild<QAbstractButton *>(QLatin1String(buttonName))->click();
+}
+
+std::string CKvInteractiveTest::text(const QDialog &dialog, const char *labelName)
+{
+    return dialog.findChild<QLabel *>(QLatin1String(labelName))->text().trimmed().toStdString();
+}
+
+void CKvInteractiveTest::keepObject()
+{
+    user.answer(QStringLiteral("CKvStandardViolationMessage"),
+                [](QDialog &dialog) { press(dialog, QDialogButtonBox::Ok); });
+}
+
+void CKvInteractiveTest::runVerification()
+{
+    user.answer(QStringLiteral("CKvStandardViolationMessage"), [](QDialog &dialog) {
+        click(dialog, "runStdVerification");
+        press(dialog, QDialogButtonBox::Ok);
+    });
+}
+
+std::vector<std::string> CKvInteractiveTest::shown() const
+{
+    std::vector<std::string> names;
+    for (const QString &name : user.shown()) {
+        names.push_back(name.toStdString());
+    }
+    return names;
+}
+
+QTimer *CKvInteractiveTest::managerTimer()
+{
+    for (const QWidget *widget : QApplication::topLevelWidgets()) {
+        if (qstrcmp(widget->metaObject()->className(), "CKvStdsManagerImpl") == 0) {
+            return widget->findChild<QTimer *>();
+        }
+    }
+    return nullptr;
+}
+
+void CKvInteractiveTest::letTick(int times)
+{
+    QTimer *timer = managerTimer();
+    ASSERT_TRUE(timer && timer->isActive()) << "the timer does not run";
+    QEventLoop loop;
+    const auto connection = QObject::connect(timer, &QTimer::timeout, &loop, [&] {
+        if (--times == 0) {
+            loop.quit();
+        }
+    });
+    loop.exec();
+    QObject::disconnect(connection);
+}
+
+void CKvInteractiveTest::runPosted()
+{
+    while (hasPosted()) {
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    }
+}
