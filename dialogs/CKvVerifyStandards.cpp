@@ -77,7 +77,7 @@ int CKvVerifyStandards::helpContextId() const
 
 void CKvVerifyStandards::closeEvent(QCloseEvent *event)
 {
-    endSession();
+    done(1);
     event->accept();
 }
 
@@ -124,7 +124,7 @@ void CKvVerifyStandards::clickedFix()
 
 void CKvVerifyStandards::clickedClose()
 {
-    endSession();
+    done(1);
 }
 
 void CKvVerifyStandards::clickedOptionsBtn()
@@ -142,7 +142,7 @@ void CKvVerifyStandards::clickedOptionsBtn()
            "standards settings."),
         QMessageBox::Close,
         QMessageBox::NoButton);
-    endSession();
+    done(1);
 }
 
 void CKvVerifyStandards::ViolationIgnoredClicked(bool checked)
@@ -250,10 +250,4 @@ void CKvVerifyStandards::fixAllAutomatically()
         m_violations[unsigned(m_current)].fixedAutomatically = true;
         clickedNext();
     }
-}
-
-void CKvVerifyStandards::endSession()
-{
-    done(1);
-    m_closed = true;
 }

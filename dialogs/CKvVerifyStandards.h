@@ -66,7 +66,6 @@ private:
     std::int32_t chosenRow(const CKvStdsViolation &entry) const;
     void repair(const CKvStdsViolation &entry) const;
     void fixAllAutomatically();
-    void endSession();
 
     // What is seen of it.
     void setUpTables();

@@ -25,9 +25,9 @@ namespace
 {
 
 /// Columns of the candidates.
-enum FixColumn { kFixMark, kFixName, kFixFile, kFixColumnCount };
+enum FixColumn { kFixMark, kFixName, kFixFile };
 /// Columns of the preview.
-enum PreviewColumn { kPreviewProperty, kPreviewCurrent, kPreviewStandard, kPreviewColumnCount };
+enum PreviewColumn { kPreviewProperty, kPreviewCurrent, kPreviewStandard };
 
 void setHeader(QTableWidget &table, int column, const QString &text)
 {
@@ -50,6 +50,24 @@ const CKvString &nameAt(const std::vector<CKvString> &names, unsigned index)
         throw std::out_of_range("invalid vector<T> subscript");
     }
     return names[index];
+}
+
+/// Leaves the row empty where there is nothing to compare.
+void fillPreviewRow(QTableWidget &table,
+                    int row,
+                    const CKvString &name,
+                    const OdResBufPtr &current,
+                    const OdResBufPtr &standard)
+{
+    if (!current || !standard || current->restype() != standard->restype()) {
+        return;
+    }
+    const auto set = [&table, row](PreviewColumn column, const CKvString &text) {
+        table.setItem(row, column, newItem(text.toQString(), text.toQString()));
+    };
+    set(kPreviewProperty, name);
+    set(kPreviewCurrent, formatPropertyValue(current));
+    set(kPreviewStandard, formatPropertyValue(standard));
 }
 
 } // namespace
@@ -96,6 +114,8 @@ void CKvVerifyStandards::connectWidgets()
             &QCheckBox::clicked,
             this,
             &CKvVerifyStandards::ViolationIgnoredClicked);
+    // However it is closed, Escape included.
+    connect(this, &QDialog::finished, this, [this] { m_closed = true; });
 }
 
 void CKvVerifyStandards::FixSelectionChanged()
@@ -123,6 +143,7 @@ void CKvVerifyStandards::clearViolationDisplay()
 {
     m_ui->ObjectTypeLabel->clear();
     m_ui->ObjectNameLabel->clear();
+    m_ui->ObjectNameLabel->setToolTip(QString());
     m_ui->ProblemDescLabel->clear();
     {
         // Emptying the table takes the selection away, which is no choice of another candidate.
@@ -164,6 +185,9 @@ void CKvVerifyStandards::fillFixTable()
         table->setItem(
             row, kFixFile, newItem(QFileInfo(path).fileName(), QDir::toNativeSeparators(path)));
     }
+    // Laid out now, the table can show the selected row wherever it is.
+    table->doItemsLayout();
+    table->scrollToTop();
     if (entry.recommendedFix >= 0) {
         table->selectRow(entry.recommendedFix);
     }
@@ -200,19 +224,7 @@ void CKvVerifyStandards::fillPreview(std::int32_t row)
     for (unsigned i = 0; i < count; ++i) {
         const OdResBufPtr currentValue = current.at(i);
         const OdResBufPtr standardValue = standard.at(i);
-        const CKvString &name = nameAt(names, i);
-        if (!currentValue || !standardValue
-            || currentValue->restype() != standardValue->restype()) {
-            continue;
-        }
-        const QString texts[kPreviewColumnCount] = {
-            name.toQString(),
-            formatPropertyValue(currentValue).toQString(),
-            formatPropertyValue(standardValue).toQString()
-        };
-        for (int column = 0; column < kPreviewColumnCount; ++column) {
-            table->setItem(int(i), column, newItem(texts[column], texts[column]));
-        }
+        fillPreviewRow(*table, int(i), nameAt(names, i), currentValue, standardValue);
     }
 }
 
@@ -238,6 +250,7 @@ void CKvVerifyStandards::updateControls()
     }
     m_ui->ObjectTypeLabel->setText(tr("  %1:").arg(entry.error->objectType().toQString()));
     m_ui->ObjectNameLabel->setText(entry.error->objectName().toQString());
+    m_ui->ObjectNameLabel->setToolTip(entry.error->objectName().toQString());
     m_ui->ProblemDescLabel->setText(QStringLiteral("  ") + entry.error->message().toQString());
     if (m_ui->IgnoreViolationCheckBox->isChecked()) {
         // Ticked in this run when the drawing doesn't name anybody.

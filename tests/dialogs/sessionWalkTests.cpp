@@ -290,6 +290,19 @@ TEST(SessionWalk, ClosingFromTheTitleBarDoesTheSame)
     EXPECT_THAT(bench.summaries(), IsEmpty());
 }
 
+TEST(SessionWalk, EscapeEndsTheDialogToo)
+{
+    CKvVerifyBench bench(kThree);
+    bench.show();
+    bench.click("FixIssueButton");
+
+    bench.press("ReplaceWithTableWidget", Qt::Key_Escape);
+
+    EXPECT_FALSE(bench.dialog().isVisible());
+    EXPECT_THAT(bench.takeRepairs(), ElementsAre("layers.applyFix A <- A ''"));
+    EXPECT_THAT(bench.summaries(), IsEmpty());
+}
+
 TEST(SessionWalk, EachShowTakesAFirstStep)
 {
     CKvVerifyBench bench(kThree);

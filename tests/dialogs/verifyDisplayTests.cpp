@@ -211,6 +211,48 @@ TEST(VerifyDisplay, TooltipsTellWhatDoesNotFitIntoTheCells)
               QStringLiteral("Name"));
 }
 
+TEST(VerifyDisplay, CandidatesBeginAtTheTopAgainWhereNoneIsRecommended)
+{
+    QStringList many;
+    for (int i = 0; i < 50; ++i) {
+        many.append(QString::number(i));
+    }
+    CKvVerifyBench bench(kTwo);
+    bench.setCandidates(0, many, 40);
+    bench.setCandidates(1, many, -1);
+    bench.show();
+
+    const bool isScrolled = bench.table("ReplaceWithTableWidget").rowAt(0) > 0;
+    bench.click("NextIssueButton");
+
+    EXPECT_TRUE(isScrolled);
+    EXPECT_EQ(bench.table("ReplaceWithTableWidget").rowAt(0), 0);
+}
+
+TEST(VerifyDisplay, NamesOfAnyLengthLeaveTheDialogAsWideAsItIs)
+{
+    const QString longName(255, QLatin1Char('W'));
+    CKvVerifyBench bench({ longName });
+    bench.host().setShowIgnored(true);
+    bench.setIgnored(0, longName.toLatin1().constData());
+
+    bench.show();
+
+    EXPECT_LT(bench.dialog().width(), 400);
+}
+
+TEST(VerifyDisplay, TheWholeNameIsInTheTooltip)
+{
+    CKvVerifyBench bench({ QStringLiteral("A") });
+    bench.show();
+
+    const QString shown = bench.widget<QLabel>("ObjectNameLabel").toolTip();
+    bench.click("NextIssueButton");
+
+    EXPECT_EQ(shown, QStringLiteral("A"));
+    EXPECT_EQ(bench.widget<QLabel>("ObjectNameLabel").toolTip(), QString());
+}
+
 TEST(VerifyDisplay, TheLabelsOfTheTablesNameThemForScreenReaders)
 {
     CKvVerifyBench bench(kTwo);
