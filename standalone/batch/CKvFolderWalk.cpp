@@ -26,7 +26,7 @@ QString nameOf(const fs::path &path, bool &isReadable)
     return QString::fromStdWString(path.filename().wstring());
 #else
     const QByteArray bytes = QByteArray::fromStdString(path.filename().string());
-    const QString name = QFile::decodeName(bytes);
+    QString name = QFile::decodeName(bytes);
     isReadable = QFile::encodeName(name) == bytes;
     return name;
 #endif

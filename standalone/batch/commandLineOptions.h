@@ -20,6 +20,7 @@ CLI::Option *addChoice(CLI::App &command,
                        const std::string &description)
 {
     std::vector<std::string> all;
+    all.reserve(words.size());
     for (const auto &[word, value] : words) {
         all.push_back(word);
     }

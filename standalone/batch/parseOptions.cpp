@@ -65,7 +65,7 @@ void addLanguage(CLI::App &command)
 std::string timeoutFault(const std::string &text)
 {
     // A timer counts milliseconds in an int.
-    constexpr double kLongestTimeout = std::numeric_limits<int>::max() / 1000;
+    constexpr double kLongestTimeout = std::numeric_limits<int>::max() / 1000.0;
     bool isNumber = false;
     const double seconds = QString::fromStdString(text).toDouble(&isNumber);
     // Not a number is neither.
