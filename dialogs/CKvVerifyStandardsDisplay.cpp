@@ -222,8 +222,8 @@ void CKvVerifyStandards::fillPreview(std::int32_t row)
     // Lists of unequal length are the plug-in's fault, whichever is the short one.
     const unsigned count = std::max({ unsigned(names.size()), current.size(), standard.size() });
     for (unsigned i = 0; i < count; ++i) {
-        const OdResBufPtr currentValue = current.at(i);
-        const OdResBufPtr standardValue = standard.at(i);
+        const OdResBufPtr &currentValue = current.at(i);
+        const OdResBufPtr &standardValue = standard.at(i);
         fillPreviewRow(*table, int(i), nameAt(names, i), currentValue, standardValue);
     }
 }
