@@ -42,6 +42,11 @@ TextStyle = namedtuple(
     defaults=("", 0.0, 1.0, 0.0, "", False, False),
 )
 
+# Flags behind the name of a face: letters of various widths without serifs.
+PITCH_AND_FAMILY = 0x22
+BOLD = 0x02000000
+ITALIC = 0x01000000
+
 
 def add_line_styles(doc, names):
     for name in names:
@@ -68,9 +73,8 @@ def add_text_styles(doc, styles):
         record.dxf.width = style.width
         record.dxf.oblique = style.oblique
         if style.face:
-            record.set_extended_font_data(
-                style.face, bold=style.is_bold, italic=style.is_italic
-            )
+            flags = PITCH_AND_FAMILY + BOLD * style.is_bold + ITALIC * style.is_italic
+            record.set_xdata("ACAD", [(1000, style.face), (1071, flags)])
 
 
 def make_annotative(record, matches_sheet=False):

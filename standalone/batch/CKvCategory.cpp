@@ -4,6 +4,7 @@
 #include "CKvDimStylePluginImpl.h"
 #include "CKvLayerPluginImpl.h"
 #include "CKvLineStylePluginImpl.h"
+#include "CKvTextStylePluginImpl.h"
 #include "CKvUsageError.h"
 
 #include <QStringList>
@@ -34,7 +35,12 @@ constexpr std::array<CKvCategory, 4> kCategories = { {
       &CKvLineStylePluginImpl::rxInit,
       &CKvLineStylePluginImpl::rxUninit,
       &OdDbDatabase::getLinetypeTableId },
-    { "textstyles", "text style", nullptr, nullptr, nullptr, &OdDbDatabase::getTextStyleTableId },
+    { "textstyles",
+      "text style",
+      &CKvTextStylePluginImpl::desc,
+      &CKvTextStylePluginImpl::rxInit,
+      &CKvTextStylePluginImpl::rxUninit,
+      &OdDbDatabase::getTextStyleTableId },
 } };
 
 QString wordsOfAll()
@@ -64,13 +70,9 @@ const std::vector<const CKvCategory *> &allCategories()
 const CKvCategory &categoryOf(const QString &word)
 {
     for (const CKvCategory &category : kCategories) {
-        if (word != QLatin1String(category.word)) {
-            continue;
+        if (word == QLatin1String(category.word)) {
+            return category;
         }
-        if (!category.isAvailable()) {
-            throw CKvUsageError(QStringLiteral("This version can't check %1 yet.").arg(word));
-        }
-        return category;
     }
     throw CKvUsageError(QStringLiteral("There is no category \"%1\". The categories are %2.")
                             .arg(word, wordsOfAll()));
@@ -85,7 +87,7 @@ std::vector<const CKvCategory *> categoriesOf(const QStringList &words)
     std::vector<const CKvCategory *> chosen;
     for (const CKvCategory &category : kCategories) {
         const bool isAsked = std::find(asked.begin(), asked.end(), &category) != asked.end();
-        if (words.isEmpty() ? category.isAvailable() : isAsked) {
+        if (words.isEmpty() || isAsked) {
             chosen.push_back(&category);
         }
     }

@@ -15,20 +15,17 @@ struct CKvCategory {
     const char *word;
     /// One of its objects, as users say it: "layer".
     const char *noun;
-    /// The plug-in's class; null functions for a category that this version can't check.
+    /// The plug-in's class.
     OdRxClass *(*desc)();
     void (*rxInit)();
     void (*rxUninit)();
     OdDbObjectId (OdDbDatabase::*tableId)() const;
-
-    bool isAvailable() const { return desc != nullptr; }
 };
 
 /// All categories in the order in which they are checked and reported.
 const std::vector<const CKvCategory *> &allCategories();
-/// The categories of these words, in the order of the checks; those available when there is no
-/// word.
-/// @throws CKvUsageError for a word that names none, or one that this version can't check.
+/// The categories of these words, in the order of the checks; all when there is no word.
+/// @throws CKvUsageError for a word that names none.
 std::vector<const CKvCategory *> categoriesOf(const QStringList &words);
 /// @throws CKvUsageError as categoriesOf.
 const CKvCategory &categoryOf(const QString &word);

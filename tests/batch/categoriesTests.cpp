@@ -73,11 +73,6 @@ std::string wordOf(const ::testing::TestParamInfo<const CKvCategory *> &info)
     return info.param->word;
 }
 
-std::vector<const CKvCategory *> categoriesToTest()
-{
-    return categoriesOf(QStringList());
-}
-
 } // namespace
 
 TEST_P(BatchCategory, ReportsNamesAndProperties)
@@ -98,7 +93,7 @@ TEST_P(BatchCategory, ReportsNamesAndProperties)
 
 TEST_P(BatchCategory, IsNoneOfTheOthers)
 {
-    for (const CKvCategory *other : categoriesToTest()) {
+    for (const CKvCategory *other : allCategories()) {
         if (other != GetParam()) {
             const CKvBatchRun result = run({ QStringLiteral("check"),
                                              QStringLiteral("a.dxf"),
@@ -200,4 +195,4 @@ TEST_P(BatchCategory, IsShownWithItsStamps)
     EXPECT_THAT(names, ::testing::EndsWith("Right\nWRONG\nOLD\nKEPT ignored\n"));
 }
 
-INSTANTIATE_TEST_SUITE_P(All, BatchCategory, ::testing::ValuesIn(categoriesToTest()), wordOf);
+INSTANTIATE_TEST_SUITE_P(All, BatchCategory, ::testing::ValuesIn(allCategories()), wordOf);

@@ -82,18 +82,6 @@ TEST_F(BatchUsage, ACategoryThatThereIsNoneOfIsWrongUsage)
     expectWrong(words("show a.dxf --only walls"), "There is no category \"walls\".");
 }
 
-TEST_F(BatchUsage, ACategoryThatThisVersionCannotCheckIsWrongUsageThatSaysSo)
-{
-    save(QStringLiteral("a.dxf"), cleanDrawing());
-
-    expectWrong(words("check a.dxf --only layers,textstyles"),
-                "This version can't check textstyles yet.");
-    expectWrong(words("fix a.dxf --dry-run --only textstyles"),
-                "This version can't check textstyles yet.");
-    expectWrong(words("ignore a.dxf textstyles Standard"),
-                "This version can't check textstyles yet.");
-}
-
 TEST_F(BatchUsage, ARepairMustKnowWhereItGoes)
 {
     save(QStringLiteral("a.dxf"), redWalls());
