@@ -12,7 +12,6 @@
 #include <QApplication>
 #include <QDialog>
 #include <QEvent>
-#include <QTimer>
 
 #include <benchmark/benchmark.h>
 
@@ -52,7 +51,7 @@ public:
         const bool isMessage = dialog && qstrcmp(dialog->metaObject()->className(), kMessage) == 0;
         if (isMessage && event->type() == QEvent::Show) {
             shownAt = processorSeconds();
-            QTimer::singleShot(0, dialog, &QDialog::reject);
+            QMetaObject::invokeMethod(dialog, "reject", Qt::QueuedConnection);
         }
         return QObject::eventFilter(watched, event);
     }
@@ -76,7 +75,7 @@ void messageAfterAnEdit(benchmark::State &state)
     CKvMessageWatch watch;
     qApp->installEventFilter(&watch);
     double seconds = 0;
-    for (auto running : state) {
+    while (state.KeepRunning()) {
         watch.shownAt = -1;
         session.commandLine().run(QStringLiteral("RECOLOR"));
         const double ended = processorSeconds();
@@ -91,6 +90,8 @@ void messageAfterAnEdit(benchmark::State &state)
     session.commands().removeCommand(&recolor);
 }
 
+BENCHMARK(messageAfterAnEdit)->Arg(1)->Arg(100)->Iterations(20)->Unit(benchmark::kMillisecond);
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -98,11 +99,6 @@ int main(int argc, char **argv)
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication application(argc, argv);
     benchmark::Initialize(&argc, argv);
-    benchmark::RegisterBenchmark("messageAfterAnEdit", &messageAfterAnEdit)
-        ->Arg(1)
-        ->Arg(100)
-        ->Iterations(20)
-        ->Unit(benchmark::kMillisecond);
     benchmark::RunSpecifiedBenchmarks();
     benchmark::Shutdown();
     return 0;

@@ -5,16 +5,33 @@
 #include <sanitizer/lsan_interface.h>
 #endif
 
+namespace
+{
+
+#ifdef __SANITIZE_ADDRESS__
+void stopCounting()
+{
+    __lsan_disable();
+}
+
+void goOnCounting()
+{
+    __lsan_enable();
+}
+#else
+void stopCounting() { }
+
+void goOnCounting() { }
+#endif
+
+} // namespace
+
 CKvForeignMemory::CKvForeignMemory()
 {
-#ifdef __SANITIZE_ADDRESS__
-    __lsan_disable();
-#endif
+    stopCounting();
 }
 
 CKvForeignMemory::~CKvForeignMemory()
 {
-#ifdef __SANITIZE_ADDRESS__
-    __lsan_enable();
-#endif
+    goOnCounting();
 }

@@ -276,6 +276,20 @@ TEST_F(InteractiveCheck, VerifyingTheWholeDrawingPostsNoCheckOfItsRepairs)
     EXPECT_THAT(shown(), testing::Not(testing::Contains(kMessage)));
 }
 
+TEST_F(InteractiveCheck, AFileThatGoesBetweenTwoCommandsIsMissedByTheSecond)
+{
+    user.answer(QLatin1String(kDialog),
+                [](QDialog &dialog) { press(dialog, QDialogButtonBox::Close); });
+    user.answer(QStringLiteral("CKvMissingStandardsFileDlg"),
+                [](QDialog &dialog) { press(dialog, QDialogButtonBox::Cancel); });
+    session->commandLine().run(QStringLiteral("VERIFYSTANDARDS"));
+    QFile::remove(folder.filePath(QStringLiteral("office.dws")));
+
+    session->commandLine().run(QStringLiteral("VERIFYSTANDARDS"));
+
+    EXPECT_THAT(shown(), ElementsAre(kDialog, "CKvMissingStandardsFileDlg"));
+}
+
 TEST_F(InteractiveCheck, AnExpressionPostsTwiceAndTheSecondCheckIsOfTheWholeDrawing)
 {
     // The end of the command posts, and so does that of the expression. The second check finds the

@@ -158,6 +158,24 @@ TEST_F(StartAndStop, ADocumentOpenedAgainIsWatchedAgain)
     }
 }
 
+TEST_F(StartAndStop, AListThatIsNoDictionaryReachesTheHostAndTheNextDocumentIsReadAllTheSame)
+{
+    CKvDrawingBuilder damaged;
+    damaged.namedObjects().xrecord("AcStStandard").group(1, "a.dws");
+    const QString path = folder.filePath(QStringLiteral("damaged.dxf"));
+    damaged.saveTo(path);
+    start();
+
+    EXPECT_THROW(session->documentManager()->open(path), OdError_NotThatKindOfClass);
+    EXPECT_THROW(session->commandLine().run(QStringLiteral("VERIFYSTANDARDS")),
+                 OdError_NotThatKindOfClass);
+
+    EXPECT_THAT(standards(), IsEmpty());
+    open("plan.dxf", QStringList(file("a.dws")));
+    EXPECT_THAT(standards(), ElementsAre("a.dws"));
+    EXPECT_TRUE(hears());
+}
+
 TEST_F(StartAndStop, WithoutAManagerTheEventsOfDocumentsAreTolerated)
 {
     CKvHostDocument &first = open("first.dxf", QStringList(file("a.dws")));
