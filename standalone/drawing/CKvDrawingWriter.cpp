@@ -52,6 +52,7 @@ CKvDrawingWriter::CKvDrawingWriter(CKvDrawingStore &store)
         }
     }
     addTables();
+    addBlocksSection();
     addObjectsSection();
     const auto isBefore = [](const Edit &a, const Edit &b) { return a.begin < b.begin; };
     std::stable_sort(m_edits.begin(), m_edits.end(), isBefore);
@@ -187,6 +188,8 @@ void CKvDrawingWriter::addNew(const CKvObjectSlot &slot)
     case Role::BlockEdge:
         if (const std::size_t place = placeOfEntity(slot)) {
             m_edits.push_back({ place, place, bytesOf(slot) });
+        } else {
+            m_newBlocks += bytesOf(slot);
         }
         break;
     case Role::Header:
@@ -246,6 +249,27 @@ void CKvDrawingWriter::addTables()
         appendTag(bytes, style, 0, "ENDTAB");
         m_edits.push_back({ m_store.tablesEnd(), m_store.tablesEnd(), keep(std::move(bytes)) });
     }
+}
+
+void CKvDrawingWriter::addBlocksSection()
+{
+    // Behind the tables, where every file has it.
+    if (m_newBlocks.empty() || m_store.tablesEnd() == 0) {
+        return;
+    }
+    const CKvTagStyle &style = m_store.format().style;
+    CKvTagReader reader(m_store.image()->bytes(), style.form, m_store.tablesEnd());
+    const bool isClosed = reader.next() && reader.tag().isWord(0, "ENDSEC");
+    std::string bytes;
+    if (!isClosed) {
+        appendTag(bytes, style, 0, "ENDSEC");
+    }
+    appendTag(bytes, style, 0, "SECTION");
+    appendTag(bytes, style, 2, "BLOCKS");
+    bytes += m_newBlocks;
+    appendTag(bytes, style, 0, "ENDSEC");
+    const std::size_t at = isClosed ? reader.tag().end : m_store.tablesEnd();
+    m_edits.push_back({ at, at, keep(std::move(bytes)) });
 }
 
 void CKvDrawingWriter::addObjectsSection()

@@ -46,6 +46,7 @@ private:
     std::size_t placeOfEntity(const CKvObjectSlot &slot) const;
     void addTables();
     void addTableCount(CKvTable &table);
+    void addBlocksSection();
     void addObjectsSection();
     std::string_view keep(std::string bytes);
 
@@ -57,6 +58,8 @@ private:
     std::map<const CKvObjectSlot *, std::string> m_newTables;
     /// Objects whose pointers to erased ones are written as 0.
     std::map<const CKvObjectSlot *, std::string> m_cleared;
+    /// For a section BLOCKS that the file lacks.
+    std::string m_newBlocks;
     std::string m_newObjects;
     bool m_hasNewObjects = false;
 };

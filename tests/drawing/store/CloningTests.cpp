@@ -334,3 +334,32 @@ TEST(LoadingALineStyle, TheStyleComesAsTheFileSpellsItAndAnUnknownOneIsCode156)
     EXPECT_NE(codeOf("DASHED", path), 0);
     EXPECT_EQ(lineStyleOf(reopened(drawing), "DASHED")->numDashes(), 2);
 }
+
+TEST(Cloning, ADrawingWithoutASectionOfBlocksGetsOneForTheBlocksThatComeAlong)
+{
+    for (const char *version : { "AC1009", "AC1015" }) {
+        SCOPED_TRACE(version);
+        CKvDrawingBuilder standards(version);
+        standards.block("TICK").line();
+        CKvDrawingBuilder builder(version);
+        builder.layer("0");
+        QByteArray bytes = builder.toBytes();
+        const int section = bytes.indexOf("  0\nSECTION\n  2\nBLOCKS\n");
+        const int end = bytes.indexOf("ENDSEC\n", section) + 7;
+        bytes.remove(section, end - section);
+        const OdDbDatabasePtr drawing = CKvDrawingFile::fromBytes(bytes);
+        const OdDbDatabasePtr source = standards.open();
+
+        clone(source,
+              tableOf(source->getBlockTableId())->getAt(OdString("TICK")),
+              drawing,
+              drawing->getBlockTableId());
+
+        const OdDbDatabasePtr again = reopened(drawing);
+        const OdDbBlockTableRecordPtr block(
+            tableOf(again->getBlockTableId())->getAt(OdString("TICK")).openObject());
+        ASSERT_FALSE(block.isNull());
+        EXPECT_EQ(block->newIterator()->entity()->isA()->dxfName(), OdString("LINE"));
+        EXPECT_EQ(CKvDrawingFile::warnings(*again), QStringList());
+    }
+}
