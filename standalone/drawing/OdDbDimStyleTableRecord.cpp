@@ -20,6 +20,13 @@ constexpr double kRadiansPerDegree = 3.14159265358979323846 / 180;
 /// R12 and older have no text style in a dimension style; it is Standard.
 constexpr int kTextStyleVersion = 1012;
 
+/// Without the noise of the conversion: 60 and not 59.99999999999999.
+double degreesOf(double radians)
+{
+    constexpr double kDigits = 1e10;
+    return std::round(radians / kRadiansPerDegree * kDigits) / kDigits;
+}
+
 std::int64_t indexOf(const OdCmColor &color)
 {
     return color.isByColor() ? nearestColorIndex(color.red(), color.green(), color.blue())
@@ -144,7 +151,7 @@ void OdDbDimStyleTableRecord::setReal(OdDbDimVariable variable, double value)
     const CKvDimensionVariable &row = dimensionVariable(variable);
     const bool isAngle = row.kind == CKvDimensionVariable::Kind::Angle;
     writeDimStyleTag(
-        slot, row, { realToText(isAngle ? value / kRadiansPerDegree : value), realToText(value) });
+        slot, row, { spelledReal(isAngle ? degreesOf(value) : value), spelledReal(value) });
 }
 
 void OdDbDimStyleTableRecord::setText(OdDbDimVariable variable, const OdString &value)

@@ -168,7 +168,7 @@ void OdDbDimensionSettings::setReal(OdDbDimVariable variable, double value)
     const CKvDimensionVariable &row = dimensionVariable(variable);
     requireInRange(row, value);
     if (real(variable) != value) {
-        writeVariable(storeOf(*this), row, realToText(value));
+        writeVariable(storeOf(*this), row, spelledReal(value));
     }
 }
 

@@ -68,7 +68,7 @@ void setReal(
     CKvObjectSlot &slot, int code, double value, double before, std::initializer_list<int> anchors)
 {
     if (value != before) {
-        setTag(slot, code, realToText(value), anchors);
+        setTag(slot, code, spelledReal(value), anchors);
     }
 }
 
@@ -241,7 +241,7 @@ void OdDbTextStyleTableRecord::setObliquingAngle(double radians)
 {
     CKvObjectSlot &slot = CKvObjectAccess::beginChange(*this);
     if (radians != obliquingAngle()) {
-        setTag(slot, 50, realToText(degreesOf(radians)), kBehindAngle);
+        setTag(slot, 50, spelledReal(degreesOf(radians)), kBehindAngle);
     }
 }
 

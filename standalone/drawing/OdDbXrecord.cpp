@@ -60,7 +60,7 @@ std::string valueFromBuffer(const CKvObjectSlot &slot, const OdResBuf &buffer)
 {
     switch (groupValueType(buffer.restype())) {
     case CKvGroupValueType::Real:
-        return realToText(buffer.getDouble());
+        return spelledReal(buffer.getDouble());
     case CKvGroupValueType::Bool:
     case CKvGroupValueType::Int16:
     case CKvGroupValueType::Int32:

@@ -39,10 +39,10 @@ void appendElementStyle(std::string &tags,
     requireHandle(*style);
     appendTag(tags, plain, 75, "0");
     appendTag(tags, plain, 340, handleToText(style->handle));
-    appendTag(tags, plain, 46, realToText(element.scale));
-    appendTag(tags, plain, 50, realToText(element.rotationDegrees));
-    appendTag(tags, plain, 44, realToText(element.offsetX));
-    appendTag(tags, plain, 45, realToText(element.offsetY));
+    appendTag(tags, plain, 46, spelledReal(element.scale));
+    appendTag(tags, plain, 50, spelledReal(element.rotationDegrees));
+    appendTag(tags, plain, 44, spelledReal(element.offsetX));
+    appendTag(tags, plain, 45, spelledReal(element.offsetY));
     appendTag(tags, plain, 9, CKvTextCodec().encode(element.content));
 }
 
@@ -65,11 +65,11 @@ std::string lineTypeTags(CKvDrawingStore &store, const CKvLineTypeDefinition &de
     appendTag(tags, plain, 3, CKvTextCodec().encode(definition.description));
     appendTag(tags, plain, 72, "65");
     appendTag(tags, plain, 73, std::to_string(definition.elements.size()));
-    appendTag(tags, plain, 40, realToText(withoutSumErrors(length)));
+    appendTag(tags, plain, 40, spelledReal(withoutSumErrors(length)));
     for (const CKvLineTypeDefinition::Element &element : definition.elements) {
         const int flags = (element.kind == Kind::Text ? kIsText : 0)
             | (element.kind != Kind::Plain && element.isRotationAbsolute ? kIsAbsolute : 0);
-        appendTag(tags, plain, 49, realToText(element.length));
+        appendTag(tags, plain, 49, spelledReal(element.length));
         if (store.format().hasDictionaries()) {
             appendTag(tags, plain, 74, std::to_string(flags));
         }

@@ -112,17 +112,19 @@ void replaceTagValue(std::string &bytes, const CKvTag &tag, std::string_view val
         bytes.replace(tag.valueBegin, tag.end - tag.valueBegin, binaryValue(tag.code, value));
         return;
     }
+    // Out of the bytes as they are now: a change of a later tag may have moved them.
+    const std::string_view old = std::string_view(bytes).substr(tag.valueBegin, tag.value.size());
     const CKvGroupValueType type = groupValueType(tag.code);
     const bool isText = type == CKvGroupValueType::Text;
-    if ((isText ? tag.value : tag.word()) == value) {
+    if ((isText ? old : trimmed(old)) == value) {
         return;
     }
     std::string spelled(value);
-    const bool isAligned = !isText && !tag.value.empty() && tag.value.front() == ' ';
-    if (isAligned && spelled.size() < tag.value.size()) {
-        spelled.insert(0, tag.value.size() - spelled.size(), ' ');
+    const bool isAligned = !isText && !old.empty() && old.front() == ' ';
+    if (isAligned && spelled.size() < old.size()) {
+        spelled.insert(0, old.size() - spelled.size(), ' ');
     }
-    bytes.replace(tag.valueBegin, tag.value.size(), spelled);
+    bytes.replace(tag.valueBegin, old.size(), spelled);
 }
 
 void removeTag(std::string &bytes, const CKvTag &tag)
@@ -142,7 +144,7 @@ std::string asciiValue(const CKvTag &tag)
     case CKvGroupValueType::Int64:
         return std::to_string(tag.integer());
     case CKvGroupValueType::Real:
-        return realToText(tag.real());
+        return spelledReal(tag.real());
     case CKvGroupValueType::Bytes: {
         constexpr char kDigits[] = "0123456789ABCDEF";
         std::string hex;
@@ -165,7 +167,7 @@ void appendTagCopy(std::string &bytes, const CKvTagStyle &style, const CKvTag &t
     appendTag(bytes, style, tag.code, asciiValue(tag));
 }
 
-std::string realToText(double number)
+std::string spelledReal(double number)
 {
     char text[40];
     const auto [end, failure] = std::to_chars(text, text + sizeof text, number);

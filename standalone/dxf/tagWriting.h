@@ -31,6 +31,6 @@ std::string asciiValue(const CKvTag &tag);
 void appendTagCopy(std::string &bytes, const CKvTagStyle &style, const CKvTag &tag);
 
 /// @return the shortest text that reads back as the same number, with a point in it.
-std::string realToText(double number);
+std::string spelledReal(double number);
 /// @return upper-case hexadecimal, "0" for 0.
 std::string handleToText(std::uint64_t handle);
