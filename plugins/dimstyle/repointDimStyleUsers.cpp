@@ -23,7 +23,7 @@ void repoint(const OdSmartPtr<User> &user, OdDbObjectId oldStyleId, OdDbObjectId
 void repointDimStyleUsers(CKvStdsErrorPtr error, OdDbObjectId newStyleId)
 {
     const OdDbObjectId oldStyleId = error->objectId();
-    walkOwnEntities(*oldStyleId.database(), [&](const OdDbEntityPtr &entity) {
+    walkOwnEntitiesNaming(*oldStyleId.database(), oldStyleId, [&](const OdDbEntityPtr &entity) {
         if (const OdDbDimensionPtr dimension = OdDbDimension::cast(entity.get())) {
             repoint(dimension, oldStyleId, newStyleId);
         } else if (const OdDbLeaderPtr leader = OdDbLeader::cast(entity.get())) {
