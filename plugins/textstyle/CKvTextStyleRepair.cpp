@@ -58,7 +58,7 @@ CKvTextStyleRepair::openRepaired(const OdDbTextStyleTablePtr &styles) const
     if (styles->has(newName)) {
         return OdDbTextStyleTableRecordPtr(styles->getAt(newName).openObject(OdDb::kForWrite));
     }
-    const OdDbTextStyleTableRecordPtr old(
+    OdDbTextStyleTableRecordPtr old(
         styles->getAt(m_oldName.toOdString()).openObject(OdDb::kForWrite));
     if (!old || !old->isWriteEnabled()) {
         return OdDbTextStyleTableRecordPtr();
