@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "CKvCommandDrawingStandards.h"
 #include "CKvCommandTest.h"
+#include "CKvTranslationNotes.h"
 #include "OdStaticRxObject.h"
 
 using ::testing::ElementsAre;
@@ -20,6 +21,16 @@ TEST_F(DrawingStandards, TellsItsNamesFlagsAndHelpTopic)
     EXPECT_EQ(command.localName(), OdString("DRAWINGSTANDARDS"));
     EXPECT_EQ(command.flags(), 0);
     EXPECT_EQ(command.helpContextId(), 3071);
+}
+
+TEST_F(DrawingStandards, ItsLocalNameIsTranslated)
+{
+    const CKvTranslationNotes translator;
+
+    EXPECT_EQ(
+        command.localName(),
+        OdString("CKvCommandDrawingStandards|DRAWINGSTANDARDS|Command Name: Needs to be unique and "
+                 "all uppercase."));
 }
 
 TEST_F(DrawingStandards, AsksTheHostForTheStandardsFiles)

@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "CKvCommandInterStateVerify.h"
 #include "CKvCommandTest.h"
+#include "CKvTranslationNotes.h"
 #include "OdStaticRxObject.h"
 #include "activeDocument.h"
 
-#include <QCoreApplication>
 #include <QDialogButtonBox>
 #include <QFile>
-#include <QTranslator>
 
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
@@ -39,19 +38,6 @@ struct InterStateVerify : CKvCommandTest {
     OdStaticRxObject<CKvCommandInterStateVerify> command;
 };
 
-/// Turns every text round.
-class CKvReversingTranslator : public QTranslator
-{
-public:
-    bool isEmpty() const override { return false; }
-    QString translate(const char *, const char *text, const char *, int) const override
-    {
-        QString reversed = QString::fromLatin1(text);
-        std::reverse(reversed.begin(), reversed.end());
-        return reversed;
-    }
-};
-
 } // namespace
 
 TEST_F(InterStateVerify, TellsItsNamesFlagsAndHelpTopic)
@@ -64,13 +50,9 @@ TEST_F(InterStateVerify, TellsItsNamesFlagsAndHelpTopic)
 
 TEST_F(InterStateVerify, ItsLocalNameIsTheSameInEveryLanguage)
 {
-    CKvReversingTranslator translator;
-    QCoreApplication::installTranslator(&translator);
+    const CKvTranslationNotes translator;
 
-    const OdString name = command.localName();
-
-    QCoreApplication::removeTranslator(&translator);
-    EXPECT_EQ(name, OdString("INTERSTATEVERIFY"));
+    EXPECT_EQ(command.localName(), OdString("INTERSTATEVERIFY"));
 }
 
 TEST_F(InterStateVerify, ChecksTheChangedObjectsAndEmptiesTheQueue)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "CKvCommandTest.h"
 #include "CKvCommandVerifyStandards.h"
+#include "CKvTranslationNotes.h"
 #include "OdStaticRxObject.h"
 #include "activeDocument.h"
 
@@ -42,6 +43,16 @@ TEST_F(VerifyStandards, TellsItsNamesFlagsAndHelpTopic)
     EXPECT_EQ(command.flags(), 0x20000000);
     EXPECT_EQ(command.helpContextId(), 3072);
     EXPECT_EQ(command.groupName(), command.CKvCommand::groupName());
+}
+
+TEST_F(VerifyStandards, ItsLocalNameIsTranslated)
+{
+    const CKvTranslationNotes translator;
+
+    EXPECT_EQ(
+        command.localName(),
+        OdString("CKvCommandVerifyStandards|VERIFYSTANDARDS|Command Name: Needs to be unique and "
+                 "all uppercase."));
 }
 
 TEST_F(VerifyStandards, WithoutADrawingToEditItFails)

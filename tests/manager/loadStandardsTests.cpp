@@ -202,6 +202,16 @@ TEST_F(LoadStandards, APathListedTwiceInOtherLettersCountsTwice)
     EXPECT_EQ(standardsFiles(), line(lower) + line(upper));
 }
 
+TEST_F(LoadStandards, FilesOfOneNameInTwoFoldersAreTwo)
+{
+    const QString a = file("x/office.dws");
+    const QString b = file("y/office.dws");
+
+    manager->loadDocumentStandards(&open({ a, b }));
+
+    EXPECT_EQ(standardsFiles(), line(a) + line(b));
+}
+
 TEST_F(LoadStandards, TwoGonePathsThatTheSearchLeadsToOneFileCountTwice)
 {
     const QString found = file("found/a.dws");
