@@ -47,6 +47,14 @@ public:
     void requireApplication(const QString &name);
 
 private:
+    /// Type, handle, extension dictionary and owner.
+    void appendHead(std::string &bytes,
+                    std::string_view type,
+                    std::uint64_t handle,
+                    std::uint64_t owner,
+                    std::string_view extensionGroup) const;
+    /// The marks of a record's classes, where the drawing has such marks.
+    void appendSubclasses(std::string &bytes, std::string_view type) const;
     std::string translated(const CKvObjectSlot &source,
                            std::uint64_t handle,
                            std::uint64_t owner,
