@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "CKvLayerTest.h"
+#include "CKvPlainChoice.h"
 #include "CKvStdsLayerRecord.h"
 #include "lineweightNames.h"
 
@@ -8,79 +9,32 @@
 namespace
 {
 
-/// Gives its records to the test.
-class CKvOpenPlugin : public CKvLayerPluginImpl
+using CKvLayerChoice = CKvPlainChoice<CKvLayerPluginImpl, CKvStdsLayerRecord>;
+
+CKvString text(const CKvStdsErrorPtr &error, const char *property)
 {
-public:
-    using CKvLayerPluginImpl::records;
-};
+    return CKvString(error->property(CKvString(property))->getString());
+}
 
-/// Judges and offers by walking all records each time: slow, and without an index.
-class CKvPlainChoice
+bool isOfferedForName(const CKvStdsErrorPtr &error, const CKvStdsLayerRecord &record)
 {
-public:
-    explicit CKvPlainChoice(const CKvOpenPlugin &plugin)
-        : m_plugin(plugin)
-    {
-    }
+    return record.name.compare(text(error, "Name")) != 0
+        && record.name.compareNoCase(CKvString("Defpoints")) != 0;
+}
 
-    /// As violationsText, for one violation.
-    std::string line(const CKvStdsErrorPtr &error) const
-    {
-        std::vector<const CKvStdsLayerRecord *> offered;
-        for (const CKvStdsRecord *record : m_plugin.records()) {
-            const auto *layer = static_cast<const CKvStdsLayerRecord *>(record);
-            const bool isName = error->message() == m_plugin.nameMessage();
-            if (isName ? isOfferedForName(error, *layer) : isOfferedForProperties(error, *layer)) {
-                offered.push_back(layer);
-            }
+bool isOfferedForProperties(const CKvStdsErrorPtr &error, const CKvStdsLayerRecord &record)
+{
+    for (const char *tied : { "0", "Defpoints" }) {
+        if (text(error, "Name") == CKvString(tied) && record.name != CKvString(tied)) {
+            return false;
         }
-        return error->objectName().toQString().toStdString() + ": "
-            + error->message().toQString().toStdString() + candidates(error, offered) + '\n';
     }
-
-private:
-    static CKvString text(const CKvStdsErrorPtr &error, const char *property)
-    {
-        return CKvString(error->property(CKvString(property))->getString());
-    }
-    static bool isOfferedForName(const CKvStdsErrorPtr &error, const CKvStdsLayerRecord &record)
-    {
-        return record.name.compare(text(error, "Name")) != 0
-            && record.name.compareNoCase(CKvString("Defpoints")) != 0;
-    }
-    static bool isOfferedForProperties(const CKvStdsErrorPtr &error,
-                                       const CKvStdsLayerRecord &record)
-    {
-        for (const char *tied : { "0", "Defpoints" }) {
-            if (text(error, "Name") == CKvString(tied) && record.name != CKvString(tied)) {
-                return false;
-            }
-        }
-        OdDb::LineWeight lineWeight = OdDb::kLineWeightByDefault;
-        ConvertNameToLineweight(text(error, "LineWeight"), lineWeight);
-        return record.color != error->property(CKvString("LineColor"))->getColor()
-            || record.lineStyleName.compareNoCase(text(error, "LineStyle")) != 0
-            || record.lineWeight != lineWeight;
-    }
-    static std::string candidates(const CKvStdsErrorPtr &error,
-                                  const std::vector<const CKvStdsLayerRecord *> &offered)
-    {
-        std::string text;
-        bool isStarred = false;
-        for (const CKvStdsLayerRecord *record : offered) {
-            text += ' ' + record->name.toQString().toStdString() + '@'
-                + record->standardsFile.toQString().toStdString();
-            if (!isStarred && record->name.equalNoCase(error->objectName())) {
-                isStarred = true;
-                text += '*';
-            }
-        }
-        return text;
-    }
-
-    const CKvOpenPlugin &m_plugin;
-};
+    OdDb::LineWeight lineWeight = OdDb::kLineWeightByDefault;
+    ConvertNameToLineweight(text(error, "LineWeight"), lineWeight);
+    return record.color != error->property(CKvString("LineColor"))->getColor()
+        || record.lineStyleName.compareNoCase(text(error, "LineStyle")) != 0
+        || record.lineWeight != lineWeight;
+}
 
 const char *const kNames[] = { "0",     "Defpoints", "DEFPOINTS", "WALLS", "walls",  "Walls",
                                "DOORS", "doors",     "Wände",     "WÄNDE", "Straße", "STRASSE",
@@ -122,13 +76,13 @@ TEST_P(LayerSampledCandidates, AreThoseOfAPlainWalkOverAllRecords)
     addLayers(firm, 12, random);
     m_services.setDrawing("/office.dxf", m_office);
     m_services.setDrawing("/firm.dxf", firm);
-    CKvOpenPlugin plugin;
+    CKvOpenPlugin<CKvLayerPluginImpl> plugin;
 
     const auto violations = audit(
         plugin, m_drawing.open(), { QStringLiteral("/office.dxf"), QStringLiteral("/firm.dxf") });
 
     ASSERT_FALSE(violations.empty());
-    const CKvPlainChoice plain(plugin);
+    const CKvLayerChoice plain(plugin, &isOfferedForName, &isOfferedForProperties);
     for (const CKvStdsViolation &violation : violations) {
         EXPECT_EQ(violationsText({ violation }), plain.line(violation.error));
     }
