@@ -165,25 +165,28 @@ void CKvDimStylePluginImpl::addIdentity(const CKvStdsFixPtr &fix, const CKvStdsR
     fix->setObjectId(asDimStyle(record).objectId);
 }
 
-OdDbDimStyleTableRecordPtr CKvDimStylePluginImpl::standardStyle(const CKvString &path,
-                                                                const CKvString &name)
+CKvDimStylePluginImpl::CKvStandardStyle CKvDimStylePluginImpl::standardStyle(const CKvString &path,
+                                                                             const CKvString &name)
 {
-    const OdDbDatabasePtr database = standardsDatabase(path);
-    if (!database) {
-        return OdDbDimStyleTableRecordPtr();
+    CKvStandardStyle found;
+    found.database = standardsDatabase(path);
+    if (!found.database) {
+        return found;
     }
-    const OdDbDimStyleTablePtr styles(database->getDimStyleTableId().openObject(OdDb::kForRead));
-    return styles ? OdDbDimStyleTableRecordPtr(styles->getAt(name.toOdString(), OdDb::kForRead))
-                  : OdDbDimStyleTableRecordPtr();
+    const OdDbDimStyleTablePtr styles(
+        found.database->getDimStyleTableId().openObject(OdDb::kForRead));
+    if (styles) {
+        found.style = OdDbDimStyleTableRecordPtr(styles->getAt(name.toOdString(), OdDb::kForRead));
+    }
+    return found;
 }
 
 bool CKvDimStylePluginImpl::agrees(const CKvStdsRecord &current, const CKvStdsRecord &standard)
 {
     const OdDbDimStyleTableRecordPtr style(openRecord(asDimStyle(current).objectId));
+    const CKvStandardStyle wanted = standardStyle(standard.standardsFile, standard.name);
     // A standard that can't be opened any more gives no rows, so the style is passed over.
-    return compareDimStyles(
-               style, standardStyle(standard.standardsFile, standard.name), /*includeAll*/ false)
-        .empty();
+    return compareDimStyles(style, wanted.style, /*includeAll*/ false).empty();
 }
 
 CKvStdsPropertyList CKvDimStylePluginImpl::properties(const CKvStdsRecord &record) const
@@ -193,7 +196,8 @@ CKvStdsPropertyList CKvDimStylePluginImpl::properties(const CKvStdsRecord &recor
 
 CKvStdsPropertyList CKvDimStylePluginImpl::recommendedProperties(const CKvStdsRecord &record)
 {
-    return valuesOfStyle(standardStyle(record.standardsFile, record.name));
+    const CKvStandardStyle standard = standardStyle(record.standardsFile, record.name);
+    return valuesOfStyle(standard.style);
 }
 
 bool CKvDimStylePluginImpl::isOffered(const CKvStdsRecord &standard, CKvStdsViolationKind kind)
@@ -202,7 +206,7 @@ bool CKvDimStylePluginImpl::isOffered(const CKvStdsRecord &standard, CKvStdsViol
     // the record is of; that is intended. A record that the first file lacks is left out, one
     // without a difference is not.
     return kind != CKvStdsViolationKind::Properties
-        || standardStyle(records().first()->standardsFile, standard.name);
+        || standardStyle(records().first()->standardsFile, standard.name).style;
 }
 
 bool CKvDimStylePluginImpl::isTiedToNamesakes(const CKvString &name) const
@@ -217,13 +221,16 @@ void CKvDimStylePluginImpl::propertyDifferences(CKvStdsErrorPtr error,
                                                 OdArray<OdResBufPtr> &fixValues,
                                                 std::vector<CKvString> & /*units*/)
 {
-    if (!error || !fix || !standardsDatabase(fix->standardsFile())) {
+    if (!error || !fix) {
+        return;
+    }
+    const CKvStandardStyle standard = standardStyle(fix->standardsFile(), fix->objectName());
+    if (!standard.database) {
         return;
     }
     const OdDbDimStyleTableRecordPtr style(openRecord(error->objectId()));
-    const OdDbDimStyleTableRecordPtr standard =
-        standardStyle(fix->standardsFile(), fix->objectName());
-    for (const DimStylePropertyRow &row : compareDimStyles(style, standard, /*includeAll*/ false)) {
+    for (const DimStylePropertyRow &row :
+         compareDimStyles(style, standard.style, /*includeAll*/ false)) {
         const CKvString key(row.key);
         names.push_back(dimStylePropertyLabel(key));
         objectValues.append(error->property(key));

@@ -57,6 +57,11 @@ protected:
     void repair(const CKvStdsErrorPtr &error, const CKvStdsFixPtr &fix) override;
 
 private:
-    /// The style of that name in a standards file, open for reading; null when there is none.
-    OdDbDimStyleTableRecordPtr standardStyle(const CKvString &path, const CKvString &name);
+    /// A style of a standards file, open for reading, with the database that it lives in. Both are
+    /// null when the file can't be read; the style alone when the file has none of that name.
+    struct CKvStandardStyle {
+        OdDbDatabasePtr database;
+        OdDbDimStyleTableRecordPtr style;
+    };
+    CKvStandardStyle standardStyle(const CKvString &path, const CKvString &name);
 };

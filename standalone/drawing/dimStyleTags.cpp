@@ -80,29 +80,30 @@ public:
             m_isInside = isSameWord(tag.word(), m_variable.extended.application);
             m_isValueNext = false;
             m_isKey = true;
-            return m_readsExtended && !m_plain;
+            return m_readsExtended && !m_isFound;
         }
         if (m_isExtended) {
             noteExtended(tag);
         } else if (tag.code == 102) {
             m_isInBraces = tag.word() != "}";
         } else if (tag.code == m_group && !m_isInBraces && m_passesOver-- <= 0) {
-            m_plain = tag;
+            keep(tag, /*isExtended*/ false);
         }
         return true;
     }
     std::optional<CKvDimStyleTag> found() const
     {
-        if (m_plain) {
-            return CKvDimStyleTag { *m_plain, /*isExtended*/ false };
-        }
-        if (m_extended) {
-            return CKvDimStyleTag { *m_extended, /*isExtended*/ true };
-        }
-        return std::nullopt;
+        return m_isFound ? std::optional<CKvDimStyleTag>(m_found) : std::nullopt;
     }
 
 private:
+    /// The last one counts.
+    void keep(const CKvTag &tag, bool isExtended)
+    {
+        m_found.tag = tag;
+        m_found.isExtended = isExtended;
+        m_isFound = true;
+    }
     void noteExtended(const CKvTag &tag)
     {
         if (!m_isInside || tag.code == 999) {
@@ -111,7 +112,7 @@ private:
         if (m_isKey) {
             m_isValueNext = isKeyOf(tag, m_variable);
         } else if (m_isValueNext && tag.code == m_variable.extended.code) {
-            m_extended = tag;
+            keep(tag, /*isExtended*/ true);
         }
         m_isKey = !m_isKey;
     }
@@ -125,8 +126,8 @@ private:
     bool m_isInside = false;
     bool m_isKey = true;
     bool m_isValueNext = false;
-    std::optional<CKvTag> m_plain;
-    std::optional<CKvTag> m_extended;
+    bool m_isFound = false;
+    CKvDimStyleTag m_found;
 };
 
 /// Settings stand in the order of their groups behind the flags.

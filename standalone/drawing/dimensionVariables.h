@@ -37,9 +37,9 @@ struct CKvDimensionVariable {
         int code = 0;
     };
 
-    OdDbDimVariable variable;
     /// "DIMADEC"; the header has it with a dollar sign.
     const char *name;
+    OdDbDimVariable variable;
     Kind kind;
     /// In a style; 0 for a setting that no version has a group for.
     int group;

@@ -41,7 +41,8 @@ double share(double degreesFromOwn)
 /// 24 hues of 15 degrees, ten indexes each: five levels, full and half saturated in turn.
 CKvRgb hueColor(int index)
 {
-    const double degrees = (index - 10) / 10 * 15.0;
+    const int hue = (index - 10) / 10;
+    const double degrees = 15.0 * hue;
     const int level = kLevels[std::size_t(index % 10 / 2)];
     const double least = index % 2 == 0 ? 0 : 0.5;
     const auto component = [&](double own) {

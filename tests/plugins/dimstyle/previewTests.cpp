@@ -89,3 +89,20 @@ TEST_F(DimStylePreview, WithoutTheStandardsFileNothingIsShown)
     EXPECT_EQ(m_services.calls(),
               std::vector<std::string>({ "readFile /gone.dxf false true 64 ''" }));
 }
+
+TEST_F(DimStylePreview, AStandardsFileThatIsNotOpenIsReadForThePreview)
+{
+    m_drawing.dimStyle("OFFICE").group(41, 2.5);
+    m_office.dimStyle("OFFICE").group(41, 3.5);
+    CKvDrawingBuilder firm;
+    firm.dimStyle("FIRM").group(41, 4.5);
+    m_services.setDrawing("/firm.dxf", firm);
+    report();
+    const CKvStdsFixPtr fix = CKvStdsFix::createObject();
+    fix->setObjectName(CKvString("FIRM"));
+    fix->setStandardsFile(CKvString("/firm.dxf"));
+
+    EXPECT_EQ(previewText(m_plugin, violationOf("OFFICE").error, fix), "Arrow size: 2.5 -> -\n");
+    EXPECT_EQ(m_services.calls(),
+              std::vector<std::string>({ "readFile /firm.dxf false true 64 ''" }));
+}
