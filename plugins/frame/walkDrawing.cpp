@@ -3,7 +3,6 @@
 
 #include "OdDbBlockTableRecord.h"
 #include "OdDbDatabase.h"
-#include "OdDbObjectIterator.h"
 #include "OdDbSymbolTable.h"
 #include "OdDbSymbolTableIterator.h"
 
@@ -44,22 +43,4 @@ void walkOwnEntitiesNaming(const OdDbDatabase &drawing,
             visit(entity);
         }
     }
-}
-
-void walkOwnEntities(const OdDbDatabase &drawing,
-                     const std::function<void(const OdDbEntityPtr &)> &visit)
-{
-    walkTable(
-        drawing.getBlockTableId(), OdDb::kForRead, [&](const OdDbSymbolTableRecordPtr &record) {
-            const OdDbBlockTableRecordPtr block(record);
-            if (block->isFromExternalReference()) {
-                return;
-            }
-            const OdDbObjectIteratorPtr entities = block->newIterator(
-                /*fromBeginning*/ true, /*skipErased*/ true, /*isSorted*/ false);
-            for (entities->start(/*fromBeginning*/ true, /*skipErased*/ true); !entities->done();
-                 entities->step(/*forward*/ true, /*skipErased*/ true)) {
-                visit(entities->entity(OdDb::kForWrite, /*openErased*/ false));
-            }
-        });
 }

@@ -13,13 +13,10 @@ void walkTable(OdDbObjectId tableId,
                OdDb::OpenMode mode,
                const std::function<void(const OdDbSymbolTableRecordPtr &)> &visit);
 
-/// Visits, opened for writing, the entities of all blocks but those of external references: model
-/// space, the layouts and every block definition.
-void walkOwnEntities(const OdDbDatabase &drawing,
-                     const std::function<void(const OdDbEntityPtr &)> &visit);
-
-/// As walkOwnEntities, but visits only those that may name a record, so that a merge costs what it
-/// moves and not what the drawing is large. Whether an entity does name it is for visit to ask.
+/// Visits, opened for writing, the entities that may name a record, in all blocks but those of
+/// external references: model space, the layouts and every block definition. They come in the order
+/// of a walk over all blocks, but cost no more than they are. Whether an entity does name the
+/// record is for visit to ask.
 void walkOwnEntitiesNaming(const OdDbDatabase &drawing,
                            OdDbObjectId recordId,
                            const std::function<void(const OdDbEntityPtr &)> &visit);

@@ -10,13 +10,14 @@
 namespace
 {
 
+/// Block and type of the entities that may be on layer WALLS.
 std::string entitiesMet(const OdDbDatabase &drawing)
 {
     std::string text;
-    walkOwnEntities(drawing, [&text](const OdDbEntityPtr &entity) {
-        text += entity->isA()->dxfName().toQString().toStdString()
-            + (entity->isWriteEnabled() ? " " : " read-only ")
-            + entity->layer().toQString().toStdString() + '\n';
+    const OdDbObjectId walls = recordId(drawing.getLayerTableId(), "WALLS");
+    walkOwnEntitiesNaming(drawing, walls, [&](const OdDbEntityPtr &entity) {
+        text += nameOf(entity->ownerId()) + ' ' + entity->isA()->dxfName().toQString().toStdString()
+            + (entity->isWriteEnabled() ? "\n" : " read-only\n");
     });
     return text;
 }
@@ -73,39 +74,46 @@ TEST(WalkDrawing, AnObjectThatIsNoTableIsRefused)
                  OdError_NotThatKindOfClass);
 }
 
-TEST(WalkDrawing, EntitiesOfSpacesAndBlocksAreMetForWritingAttributesBehindTheirInsertion)
+TEST(WalkDrawing, EntitiesOfALayerAreMetForWritingSpaceByBlockAttributesBehindTheirInsertion)
 {
     CKvDrawingBuilder builder;
-    builder.block("DOOR").line("FRAMES");
-    builder.modelSpace().line("WALLS");
-    builder.modelSpace().insert("DOOR", "DOORS").attribute("NO", "17").lastChild().layer("NUMBERS");
-    builder.paperSpace().text("Plan", "TITLES");
+    builder.layer("WALLS");
+    builder.layer("DOORS");
+    builder.block("DOOR").line("WALLS");
+    builder.block("WINDOW").line("DOORS");
+    builder.modelSpace().line("walls");
+    builder.modelSpace().line("DOORS");
+    builder.modelSpace().insert("DOOR", "WALLS").attribute("NO", "17").lastChild().layer("WALLS");
+    builder.paperSpace().text("Plan", "WALLS");
     const OdDbDatabasePtr drawing = builder.open();
 
     EXPECT_EQ(entitiesMet(*drawing),
-              "LINE WALLS\nINSERT DOORS\nATTRIB NUMBERS\nTEXT TITLES\nLINE FRAMES\n");
+              "*Model_Space LINE\n*Model_Space INSERT\n*Model_Space ATTRIB\n"
+              "*Paper_Space TEXT\nDOOR LINE\n");
 }
 
 TEST(WalkDrawing, EntitiesOfExternalReferencesAreNotMet)
 {
     CKvDrawingBuilder builder;
+    builder.layer("WALLS");
     builder.externalReference("SITE").line("WALLS");
     builder.block("OVERLAY").blockFlags(8).line("WALLS");
     builder.block("DOOR").line("WALLS");
     builder.modelSpace().insert("SITE", "WALLS");
     const OdDbDatabasePtr drawing = builder.open();
 
-    EXPECT_EQ(entitiesMet(*drawing), "INSERT WALLS\nLINE WALLS\n");
+    EXPECT_EQ(entitiesMet(*drawing), "*Model_Space INSERT\nDOOR LINE\n");
 }
 
 TEST(WalkDrawing, ErasedEntitiesAreNotMet)
 {
     CKvDrawingBuilder builder;
+    builder.layer("WALLS");
     builder.modelSpace().line("WALLS").handle("AB");
-    builder.modelSpace().line("DOORS");
+    builder.modelSpace().text("Plan", "WALLS");
     const OdDbDatabasePtr drawing = builder.open();
 
     drawing->getOdDbObjectId(OdDbHandle(0xAB)).safeOpenObject(OdDb::kForWrite)->erase();
 
-    EXPECT_EQ(entitiesMet(*drawing), "LINE DOORS\n");
+    EXPECT_EQ(entitiesMet(*drawing), "*Model_Space TEXT\n");
 }
