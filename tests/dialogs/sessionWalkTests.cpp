@@ -176,6 +176,17 @@ TEST(SessionWalk, BetweenWalksNextIsOnAndFixAndTheDisplayAreOff)
     EXPECT_FALSE(bench.widget<QAbstractButton>("IgnoreViolationCheckBox").isChecked());
 }
 
+TEST(SessionWalk, AnEmptyListLeavesTheDescriptionOnAndEmpty)
+{
+    CKvVerifyBench bench({});
+
+    bench.show();
+
+    EXPECT_EQ(displayOn(bench), "ObjectTypeLabel ProblemDescLabel label_5 IgnoredByLoginNameLabel");
+    EXPECT_EQ(bench.text("ProblemDescLabel"), "");
+    EXPECT_EQ(bench.text("label_5"), "");
+}
+
 TEST(SessionWalk, EnterBeginsTheNextWalk)
 {
     CKvVerifyBench bench({ QStringLiteral("A") });
