@@ -10,6 +10,7 @@
 
 #include <QStringList>
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -74,8 +75,8 @@ public:
     /// Takes what the plug-in was asked for since the last call, without previews.
     std::vector<std::string> takeRepairs();
     std::vector<std::string> takeCalls();
-    /// Takes what was thrown.
-    static std::vector<std::string> takeFailures();
+    /// Does what shall fail, and gives what was thrown.
+    std::vector<std::string> failuresOf(const std::function<void()> &action);
     /// "300=anna 90=1", or "none".
     std::string stampOf(const char *layer) const;
 

@@ -119,8 +119,8 @@ TEST(SessionFix, ARepairThatThrowsLeavesTheEntryWhereItIs)
     bench.plugin().failsIn("applyFix");
     bench.show();
 
-    bench.click("FixIssueButton");
-    const std::vector<std::string> failures = CKvVerifyBench::takeFailures();
+    const std::vector<std::string> failures =
+        bench.failuresOf([&] { bench.click("FixIssueButton"); });
     const std::string afterwards = bench.shown();
     bench.click("NextIssueButton");
     bench.click("NextIssueButton");

@@ -173,8 +173,7 @@ TEST(SessionIgnore, ADrawingWithoutRoomForStampsLeavesTheBoxAsItWas)
     CKvVerifyBench bench(kTwo, CKvDrawingBuilder("AC1009"));
     bench.show();
 
-    bench.click(kBox);
-    const std::vector<std::string> failures = CKvVerifyBench::takeFailures();
+    const std::vector<std::string> failures = bench.failuresOf([&] { bench.click(kBox); });
     const bool isTicked = bench.widget<QCheckBox>(kBox).isChecked();
     bench.click("NextIssueButton");
     bench.click("NextIssueButton");

@@ -189,26 +189,30 @@ TEST_F(SessionOptions, WithoutAManagerTheCategoriesAreNotCompared)
 
 TEST_F(SessionOptions, AListThatIsNoDictionaryIsToldToTheHost)
 {
-    options([this] {
+    const auto damage = [this] {
         const OdDbDictionaryPtr named(
             drawing().getNamedObjectsDictionaryId().safeOpenObject(OdDb::kForWrite));
         named->setAt(OdString("AcStStandard"), OdDbXrecord::createObject());
-    });
+    };
 
-    EXPECT_EQ(CKvVerifyBench::takeFailures().size(), 1U);
+    const std::vector<std::string> failures = m_bench.failuresOf([&] { options(damage); });
+
+    EXPECT_EQ(failures.size(), 1U);
     expectGoingOn();
 }
 
 TEST_F(SessionOptions, AnEntryThatIsNoXrecordIsToldToTheHost)
 {
-    options([this] {
+    const auto damage = [this] {
         const OdDbDictionaryPtr named(
             drawing().getNamedObjectsDictionaryId().safeOpenObject(OdDb::kForWrite));
         const OdDbDictionaryPtr list(named->getAt(OdString("AcStStandard"), OdDb::kForWrite));
         list->setAt(OdString("9"), OdDbDictionary::createObject());
-    });
+    };
 
-    EXPECT_EQ(CKvVerifyBench::takeFailures().size(), 1U);
+    const std::vector<std::string> failures = m_bench.failuresOf([&] { options(damage); });
+
+    EXPECT_EQ(failures.size(), 1U);
     expectGoingOn();
 }
 

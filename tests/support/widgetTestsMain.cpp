@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
+#include "CKvForeignMemory.h"
 #include "CKvTestApplication.h"
 
 #include <gmock/gmock.h>
+
+#include <optional>
 
 namespace
 {
@@ -26,6 +29,11 @@ int main(int argc, char **argv)
         qputenv("QT_QPA_PLATFORM", "offscreen");
     }
     s_handler = qInstallMessageHandler(passMessage);
-    CKvTestApplication application(argc, argv);
+    std::optional<CKvTestApplication> application;
+    {
+        // That window system keeps its screen for good.
+        const CKvForeignMemory screen;
+        application.emplace(argc, argv);
+    }
     return RUN_ALL_TESTS();
 }
