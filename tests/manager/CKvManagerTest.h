@@ -31,7 +31,7 @@ protected:
     /// Opens a document with one standards file that is there, and loads its standards.
     CKvSessionDocument &openTracked();
     /// Whether a change in the document reaches the manager.
-    bool hears(CKvSessionDocument &document) const;
+    bool hears(CKvSessionDocument &changed) const;
     /// "path (name)" a line.
     std::string standardsFiles() const;
 

@@ -81,7 +81,7 @@ void *CKvModuleTest::symbol(const char *name) const
 
 QString CKvModuleTest::file(const char *name) const
 {
-    const QString path = folder.filePath(QString::fromUtf8(name));
+    QString path = folder.filePath(QString::fromUtf8(name));
     CKvDrawingBuilder().saveTo(path);
     return path;
 }
