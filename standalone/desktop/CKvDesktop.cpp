@@ -64,6 +64,9 @@ CKvDesktop::CKvDesktop(const CKvDesktopOptions &options)
     addFileCommands(*this);
     addViewCommands(*this);
     addSettingCommands(*this);
+    addRecordCommands(*this);
+    addEditCommands(*this);
+    addDrawCommands(*this);
     m_session.setApplicationFrame(m_window.get());
     m_session.setRequest(QStringLiteral("_DWGSTANDARDS"), [this](const OdResBufPtr &arguments) {
         showStandardsSettings(*this, arguments ? arguments->getInt16() : 1);

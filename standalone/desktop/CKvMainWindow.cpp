@@ -6,11 +6,13 @@
 #include "CKvDesktop.h"
 #include "CKvDrawingView.h"
 #include "CKvHostDocument.h"
+#include "CKvRecordsPanel.h"
 #include "askPoint.h"
 #include "takeWord.h"
 
 #include <QCloseEvent>
 #include <QDir>
+#include <QDockWidget>
 #include <QDropEvent>
 #include <QFileInfo>
 #include <QLabel>
@@ -47,6 +49,7 @@ CKvMainWindow::CKvMainWindow(CKvDesktop &desktop)
     column->addWidget(m_panel);
     setCentralWidget(center);
     makeTabs();
+    makeRecordsPanel();
     makeStatusBar();
     makeMenus();
     updateRecentFiles();
@@ -54,6 +57,7 @@ CKvMainWindow::CKvMainWindow(CKvDesktop &desktop)
     connect(&desktop.commandLine(), &CKvCommandLine::commandFinished, this, [this] {
         setPicksPoints(false);
         updateTitles();
+        m_records->refreshLater();
     });
     connect(m_panel, &CKvCommandPanel::askingChanged, this, [this](bool isAsking) {
         if (!isAsking) {
@@ -87,6 +91,16 @@ void CKvMainWindow::makeTabs()
         m_tabs->setCurrentIndex(index);
         enter(QStringLiteral("CLOSE"));
     });
+}
+
+void CKvMainWindow::makeRecordsPanel()
+{
+    m_records = new CKvRecordsPanel(this);
+    m_recordsDock = new QDockWidget(tr("Layers and Styles"), this);
+    m_recordsDock->setObjectName(QStringLiteral("RecordsDock"));
+    m_recordsDock->setWidget(m_records);
+    addDockWidget(Qt::LeftDockWidgetArea, m_recordsDock);
+    connect(m_records, &CKvRecordsPanel::commandWanted, this, &CKvMainWindow::enter);
 }
 
 void CKvMainWindow::makeStatusBar()
@@ -187,6 +201,7 @@ void CKvMainWindow::DocumentToBeDestroyed(CKvDocument *document)
     if (found != m_views.end()) {
         CKvDrawingView *view = found->second;
         m_views.erase(found);
+        m_records->setDocument(nullptr);
         const QSignalBlocker quiet(m_tabs);
         m_tabs->removeTab(m_tabs->indexOf(view));
         delete view;
@@ -201,6 +216,7 @@ void CKvMainWindow::DocumentBecameCurrent(CKvDocument *document)
         const QSignalBlocker quiet(m_tabs);
         m_tabs->setCurrentWidget(view);
     }
+    m_records->setDocument(static_cast<CKvHostDocument *>(document));
     updateTitles();
     updateActions();
 }

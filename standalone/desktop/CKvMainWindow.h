@@ -12,7 +12,9 @@ class CKvCommandPanel;
 class CKvDesktop;
 class CKvDrawingView;
 class CKvHostDocument;
+class CKvRecordsPanel;
 class QAction;
+class QDockWidget;
 class QLabel;
 class QMenu;
 class QProgressBar;
@@ -64,9 +66,11 @@ protected:
 
 private:
     void makeTabs();
+    void makeRecordsPanel();
     void makeStatusBar();
     void makeMenus();
     void makeFileMenu();
+    void makeEditMenu();
     void makeViewMenu();
     void makeStandardsMenu();
     void makeHelpMenu();
@@ -83,6 +87,8 @@ private:
     CKvDesktop &m_desktop;
     QTabWidget *m_tabs;
     CKvCommandPanel *m_panel;
+    CKvRecordsPanel *m_records = nullptr;
+    QDockWidget *m_recordsDock = nullptr;
     QMenu *m_recentMenu = nullptr;
     QAction *m_lineWeights = nullptr;
     QAction *m_dark = nullptr;

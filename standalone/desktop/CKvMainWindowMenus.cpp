@@ -8,6 +8,7 @@
 
 #include <QAction>
 #include <QDir>
+#include <QDockWidget>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
@@ -35,6 +36,7 @@ QAction *CKvMainWindow::addCommand(QMenu &menu,
 void CKvMainWindow::makeMenus()
 {
     makeFileMenu();
+    makeEditMenu();
     makeViewMenu();
     makeStandardsMenu();
     makeHelpMenu();
@@ -56,6 +58,21 @@ void CKvMainWindow::makeFileMenu()
     addCommand(menu, tr("E&xit"), QStringLiteral("QUIT"), QKeySequence(tr("Ctrl+Q")));
 }
 
+void CKvMainWindow::makeEditMenu()
+{
+    QMenu &menu = *menuBar()->addMenu(tr("&Edit"));
+    addCommand(menu, tr("&Undo"), QStringLiteral("UNDO"), QKeySequence::Undo);
+    addCommand(menu, tr("&Redo"), QStringLiteral("REDO"), QKeySequence(tr("Ctrl+Y")));
+    menu.addSeparator();
+    addCommand(menu, tr("&Line"), QStringLiteral("LINE"));
+    addCommand(menu, tr("&Circle"), QStringLiteral("CIRCLE"));
+    addCommand(menu, tr("&Text"), QStringLiteral("TEXT"));
+    addCommand(menu, tr("&Insert Block"), QStringLiteral("INSERTBLOCK"));
+    menu.addSeparator();
+    addCommand(menu, tr("&Erase"), QStringLiteral("ERASE"), QKeySequence(tr("Ctrl+Del")));
+    addCommand(menu, tr("&Purge"), QStringLiteral("PURGE"));
+}
+
 void CKvMainWindow::makeViewMenu()
 {
     QMenu &menu = *menuBar()->addMenu(tr("&View"));
@@ -67,6 +84,9 @@ void CKvMainWindow::makeViewMenu()
     menu.addSeparator();
     addCommand(menu, tr("&Regenerate"), QStringLiteral("REGEN"), QKeySequence::Refresh);
     menu.addSeparator();
+    QAction *records = m_recordsDock->toggleViewAction();
+    records->setText(tr("Layers and &Styles"));
+    menu.addAction(records);
     m_lineWeights = menu.addAction(tr("Show &Lineweights"));
     m_lineWeights->setObjectName(QStringLiteral("LineWeightsAction"));
     m_lineWeights->setCheckable(true);

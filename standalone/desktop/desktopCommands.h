@@ -9,3 +9,9 @@ void addFileCommands(CKvDesktop &desktop);
 void addViewCommands(CKvDesktop &desktop);
 /// SETVAR, DWGSTANDARDS.
 void addSettingCommands(CKvDesktop &desktop);
+/// LAYER, LINETYPE, STYLE, DIMSTYLE.
+void addRecordCommands(CKvDesktop &desktop);
+/// UNDO, REDO, REDON, ERASE, RENAME, PURGE.
+void addEditCommands(CKvDesktop &desktop);
+/// LINE, CIRCLE, TEXT, INSERTBLOCK.
+void addDrawCommands(CKvDesktop &desktop);

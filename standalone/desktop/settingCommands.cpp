@@ -80,7 +80,6 @@ bool setVariable(CKvDesktop &desktop)
     CKvDrawingStore &store = document.GetKvDatabase()->store();
     const std::string text = store.format().codec.encode(checkedText(name, *present, value));
     store.header().set("$" + name.toStdString(), text);
-    document.setModified(true);
     desktop.window().rebuildPicture();
     return true;
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "CKvDrawingStore.h"
 
+#include "CKvChangeJournal.h"
 #include "CKvEntityIndex.h"
 #include "CKvSectionReader.h"
 #include "objectClasses.h"
@@ -153,6 +154,9 @@ bool CKvDrawingStore::moveToLayer(CKvObjectSlot &entity, std::string_view encode
             return false;
         }
         m_movedLayers.emplace_back(encodedName);
+    }
+    if (journal) {
+        journal->willChange(entity);
     }
     entity.movedTo = std::uint16_t(m_movedLayers.size() - 1);
     touch(entity);

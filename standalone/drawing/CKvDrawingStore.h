@@ -19,6 +19,7 @@
 #include <unordered_map>
 #include <vector>
 
+class CKvChangeJournal;
 class CKvDrawingLoader;
 class CKvEntityIndex;
 class OdDbDatabase;
@@ -102,7 +103,13 @@ public:
     /// The file that the drawing was read from as it was then, or when it was last saved there;
     /// nothing for a drawing from memory.
     std::optional<CKvFileIdentity> ownFile;
+    /// All objects that were ever made, in that order.
+    std::size_t slotCount() const { return m_slots.size(); }
+    CKvObjectSlot &slotAt(std::size_t index) { return m_slots[index]; }
+
     OdDbDatabase *database = nullptr;
+    /// Notes what changes; null when nobody wants to take changes back.
+    CKvChangeJournal *journal = nullptr;
     std::vector<OdDbDatabaseReactor *> reactors;
 
 private:

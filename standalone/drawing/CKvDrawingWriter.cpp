@@ -6,12 +6,19 @@
 #include "CKvTagReader.h"
 #include "nameUses.h"
 #include "objectTags.h"
+#include "recordNames.h"
 
 #include <algorithm>
 #include <unordered_set>
 
 namespace
 {
+
+bool isSpaceName(const QString &name)
+{
+    return name.startsWith(QLatin1String("*Model_Space"), Qt::CaseInsensitive)
+        || name.startsWith(QLatin1String("*Paper_Space"), Qt::CaseInsensitive);
+}
 
 /// The records that the saved file has. The record of a block that the file's table lacks is made
 /// up for the walk, and not written as long as nobody changes it.
@@ -202,8 +209,14 @@ void CKvDrawingWriter::addNew(const CKvObjectSlot &slot)
 
 std::size_t CKvDrawingWriter::placeOfEntity(const CKvObjectSlot &slot) const
 {
-    const CKvObjectSlot *end = m_store.entities().contentsOf(*slot.owner).end;
-    return end && end->begin != end->end ? end->begin : m_store.entities().blocksEnd();
+    CKvEntityIndex &index = m_store.entities();
+    // What is drawn in a space stands in a section of its own, not in the space's block.
+    const bool isInSpace = slot.owner && isSpaceName(recordName(*slot.owner));
+    if (isInSpace && index.entitiesEnd() != 0) {
+        return index.entitiesEnd();
+    }
+    const CKvObjectSlot *end = index.contentsOf(*slot.owner).end;
+    return end && end->begin != end->end ? end->begin : index.blocksEnd();
 }
 
 void CKvDrawingWriter::addTableCount(CKvTable &table)

@@ -181,4 +181,5 @@ void CKvEntityIndex::readEntities(CKvSectionReader &reader)
             makeRoom(*contents, outline, reader.contentBegin(), reader.end());
         }
     }
+    m_entitiesEnd = reader.contentEnd();
 }

@@ -32,6 +32,7 @@ public:
     /// Offset before which entities of BLOCKS and of ENTITIES are added; 0 when the file lacks the
     /// section.
     std::size_t blocksEnd() const { return m_blocksEnd; }
+    std::size_t entitiesEnd() const { return m_entitiesEnd; }
     std::uint64_t largestHandle() const { return m_largestHandle; }
     /// Enters a new object.
     void add(CKvObjectSlot &slot);
@@ -58,5 +59,6 @@ private:
     /// By handle, and where that is the same in the order of the file; made when somebody asks.
     std::vector<CKvObjectSlot *> m_byHandle;
     std::size_t m_blocksEnd = 0;
+    std::size_t m_entitiesEnd = 0;
     std::uint64_t m_largestHandle = 0;
 };

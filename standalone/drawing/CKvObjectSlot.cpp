@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "CKvObjectSlot.h"
 
+#include "CKvChangeJournal.h"
 #include "CKvDrawingStore.h"
 
 std::string_view CKvObjectSlot::bytes() const
@@ -31,6 +32,9 @@ CKvTagForm CKvObjectSlot::form() const
 
 std::string &CKvObjectSlot::ownBytes()
 {
+    if (store && store->journal) {
+        store->journal->willChange(*this);
+    }
     const std::string_view now = bytes();
     if (!own) {
         own = std::make_unique<std::string>(now);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "extensionDictionary.h"
 
+#include "CKvChangeJournal.h"
 #include "CKvDrawingStore.h"
 #include "CKvTagReader.h"
 #include "OdDbDictionary.h"
@@ -45,6 +46,9 @@ std::vector<CKvObjectSlot *> hangingOn(const CKvObjectSlot &slot)
 
 void setErasedAlone(CKvObjectSlot &slot, bool isErased)
 {
+    if (slot.store->journal) {
+        slot.store->journal->willChange(slot);
+    }
     slot.isErased = isErased;
     slot.store->touch(slot);
     if (slot.role == CKvObjectSlot::Role::Record) {
@@ -75,6 +79,9 @@ void requireHandle(CKvObjectSlot &slot)
 {
     if (slot.handle != 0) {
         return;
+    }
+    if (slot.store->journal) {
+        slot.store->journal->willChange(slot);
     }
     slot.handle = slot.store->newHandle();
     const std::optional<CKvTag> type = findTag(slot, 0);

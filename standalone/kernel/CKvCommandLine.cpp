@@ -5,6 +5,8 @@
 #include "CKvCommandStack.h"
 #include "CKvEditor.h"
 #include "CKvHostCommandContext.h"
+#include "CKvHostDocument.h"
+#include "CKvHostDocumentManager.h"
 #include "OdEdCommandStackReactor.h"
 #include "OdEdLispEngineReactor.h"
 #include "lispCommands.h"
@@ -19,6 +21,15 @@ namespace
 constexpr int kPostIntervalMs = 15;
 
 CKvCommandLine *s_current = nullptr;
+
+void endUndoSteps(const QString &name)
+{
+    if (const CKvHostDocumentManager *manager = CKvHostDocumentManager::current()) {
+        for (const std::unique_ptr<CKvHostDocument> &document : manager->documents()) {
+            document->undoStack().endStep(name);
+        }
+    }
+}
 
 /// Gives up the lines of a script, or of one entry, whatever happens.
 class CKvLinesScope
@@ -36,6 +47,22 @@ public:
 private:
     std::deque<QString> &m_lines;
     std::deque<QString> m_before;
+};
+
+/// Counts for as long as it lives.
+class CKvCountScope
+{
+public:
+    explicit CKvCountScope(int &count)
+        : m_count(++count)
+    {
+    }
+    ~CKvCountScope() { --m_count; }
+    CKvCountScope(const CKvCountScope &) = delete;
+    CKvCountScope &operator=(const CKvCountScope &) = delete;
+
+private:
+    int &m_count;
 };
 
 } // namespace
@@ -85,6 +112,7 @@ void CKvCommandLine::runScript(const QStringList &lines)
             m_lines.push_back(line);
         }
     }
+    const CKvCountScope script(m_scripts);
     runLines();
 }
 
@@ -134,6 +162,9 @@ CKvCommandLine::Outcome CKvCommandLine::execute(OdEdCommand &command)
     if (context->activeCommandDepth() == 0 && name != QLatin1String("INTERSTATEVERIFY")) {
         m_lastCommand = name;
     }
+    if (m_running == 0) {
+        endUndoSteps(QString());
+    }
     context->enterCommand();
     ++m_running;
     m_stack.tell([&](OdEdCommandStackReactor &reactor) {
@@ -174,6 +205,10 @@ void CKvCommandLine::finish(OdEdCommand &command, CKvHostCommandContext &context
     });
     context.leaveCommand();
     --m_running;
+    if (m_running == 0) {
+        // All that an outermost command has changed, in whatever drawing, is one step.
+        endUndoSteps(command.localName().toQString());
+    }
     emit commandFinished(command.localName().toQString());
 }
 
@@ -240,9 +275,7 @@ void CKvCommandLine::post(OdResBufPtr request)
 
 void CKvCommandLine::runPosted()
 {
-    const CKvHostCommandContext *context = m_context();
-    if (context->activeCommandDepth() > 0 || context->isScriptRunning()
-        || (m_isIdle && !m_isIdle())) {
+    if (isRunning() || isScriptRunning() || (m_isIdle && !m_isIdle())) {
         return;
     }
     if (m_posted.empty()) {

@@ -65,6 +65,7 @@ public:
 
     /// A command, or a script, is in progress.
     bool isRunning() const { return m_running > 0; }
+    bool isScriptRunning() const { return m_scripts > 0; }
     const QString &lastCommand() const { return m_lastCommand; }
 
 signals:
@@ -92,4 +93,5 @@ private:
     QTimer m_postTimer;
     QString m_lastCommand;
     int m_running = 0;
+    int m_scripts = 0;
 };

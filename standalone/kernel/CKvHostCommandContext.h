@@ -16,19 +16,17 @@ public:
     CKvDocument *document() const override { return m_document; }
     int activeCommandDepth() const override { return m_depth; }
     bool isInputSuspended() const override { return m_isInputSuspended; }
-    bool isScriptRunning() const override { return m_scripts > 0; }
+    /// A script feeds whatever document is active.
+    bool isScriptRunning() const override;
 
     /// The document goes while a command of its own still runs.
     void forgetDocument() { m_document = nullptr; }
     void enterCommand() { ++m_depth; }
     void leaveCommand() { --m_depth; }
-    void enterScript() { ++m_scripts; }
-    void leaveScript() { --m_scripts; }
     void setInputSuspended(bool isSuspended) { m_isInputSuspended = isSuspended; }
 
 private:
     CKvDocument *m_document;
     int m_depth = 0;
-    int m_scripts = 0;
     bool m_isInputSuspended = false;
 };

@@ -1,40 +1,19 @@
 // SPDX-License-Identifier: MIT
 #include "CKvHostDocument.h"
 
-#include "CKvDatabaseReactor.h"
 #include "CKvDrawingFile.h"
 #include "CKvDrawingLoader.h"
 #include "CKvDrawingStore.h"
+#include "CKvFileIdentity.h"
 
 #include <QDir>
 #include <QFileInfo>
-
-/// Notes that the drawing was changed.
-class CKvHostDocument::ChangeWatch : public OdStaticRxObject<CKvDatabaseReactor>
-{
-public:
-    explicit ChangeWatch(CKvHostDocument &document)
-        : m_document(document)
-    {
-        m_document.m_database->addReactor(this);
-    }
-    ~ChangeWatch() override { m_document.m_database->removeReactor(this); }
-
-    void objectAppended(const OdDbDatabase *, const OdDbObject *) override { note(); }
-    void objectModified(const OdDbDatabase *, const OdDbObject *) override { note(); }
-    void objectErased(const OdDbDatabase *, const OdDbObject *, bool) override { note(); }
-
-private:
-    void note() { m_document.m_isModified = true; }
-
-    CKvHostDocument &m_document;
-};
 
 CKvHostDocument::CKvHostDocument(CKvDatabasePtr database)
     : m_database(std::move(database))
     , m_context(new CKvHostCommandContext(this), kOdRxObjAttach)
     , m_selection(std::make_unique<CKvDocumentSelection>())
-    , m_watch(std::make_unique<ChangeWatch>(*this))
+    , m_undo(std::make_unique<CKvUndoStack>(m_database->store()))
 {
 }
 
@@ -116,7 +95,13 @@ CKvHostDocument::Hindrance CKvHostDocument::hindranceTo(const QString &path) con
 
 void CKvHostDocument::saveAs(const QString &path)
 {
+    // Saving may write the seed of the handles; what was changed before is a step of its own.
+    m_undo->endStep(QString());
+    // Whoever calls has asked the user; the file as it is now is the one to replace.
+    if (m_database->store().ownFile) {
+        m_database->store().ownFile = CKvFileIdentity::ofPath(path);
+    }
     CKvDrawingFile::save(*m_database, path);
     takeFile(path);
-    m_isModified = false;
+    m_undo->noteSaved();
 }

@@ -5,7 +5,7 @@
 #include "CKvDocument.h"
 #include "CKvDocumentSelection.h"
 #include "CKvHostCommandContext.h"
-#include "OdStaticRxObject.h"
+#include "CKvUndoStack.h"
 
 #include <QDateTime>
 #include <QLockFile>
@@ -40,8 +40,8 @@ public:
     /// What the user knows the drawing by.
     QString title() const;
     /// True when something was changed that was not saved.
-    bool isModified() const { return m_isModified; }
-    void setModified(bool isModified) { m_isModified = isModified; }
+    bool isModified() const { return m_undo->isModified(); }
+    CKvUndoStack &undoStack() const { return *m_undo; }
 
     /// Whether saving to this path would lose somebody else's work.
     Hindrance hindranceTo(const QString &path) const;
@@ -54,8 +54,6 @@ public:
     void endBusy() { --m_busy; }
 
 private:
-    class ChangeWatch;
-
     explicit CKvHostDocument(CKvDatabasePtr database);
     void takeFile(const QString &path);
     static QString lockPathOf(const QString &path);
@@ -64,12 +62,11 @@ private:
     /// Counted: a command that closes its document still ends in it.
     OdSmartPtr<CKvHostCommandContext> m_context;
     std::unique_ptr<CKvDocumentSelection> m_selection;
-    std::unique_ptr<ChangeWatch> m_watch;
+    std::unique_ptr<CKvUndoStack> m_undo;
     std::unique_ptr<QLockFile> m_lock;
     QString m_path;
     QString m_title;
     QDateTime m_fileTime;
     qint64 m_fileSize = -1;
     int m_busy = 0;
-    bool m_isModified = false;
 };

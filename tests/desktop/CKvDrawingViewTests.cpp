@@ -64,7 +64,7 @@ TEST_F(DrawingView, TheWheelZoomsAroundThePointer)
     QCoreApplication::sendEvent(&view(), &event);
 
     EXPECT_DOUBLE_EQ(view().scale(), before * 1.25);
-    EXPECT_EQ(pixelOf(100, 50), pixel);
+    EXPECT_LE((pixelOf(100, 50) - pixel).manhattanLength(), 1);
 }
 
 TEST_F(DrawingView, TheMiddleButtonMovesTheDrawing)
