@@ -35,9 +35,14 @@ QString outputFor(const CKvDrawingInput &drawing, const CKvRunOptions &options)
     if (options.isInPlace) {
         return drawing.path;
     }
-    return options.outputFolder.isEmpty()
-        ? QString()
-        : options.outputFolder + QLatin1Char('/') + drawing.relativePath;
+    if (options.outputFolder.isEmpty()) {
+        return {};
+    }
+    QString output = options.outputFolder + QLatin1Char('/') + drawing.relativePath;
+    if (isDwgFile(drawing.path)) {
+        output.replace(output.size() - 3, 3, QStringLiteral("dxf"));
+    }
+    return output;
 }
 
 /// What the run reads beside the drawings.

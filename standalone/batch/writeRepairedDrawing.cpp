@@ -47,6 +47,8 @@ QString writeRepairedDrawing(const CKvDrawingRepair &repair,
     if (isInPlace && !CKvDrawingFile::isChanged(*repair.drawing())) {
         return {};
     }
+    // Before an older copy is replaced for nothing.
+    CKvDrawingFile::requireReplaceable(*repair.drawing(), file);
     if (isInPlace && keepsBackup) {
         writeBackup(repair.fileBefore(), path);
     }

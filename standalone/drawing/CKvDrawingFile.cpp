@@ -30,21 +30,6 @@ bool namesOneFile(const QString &a, const QString &b)
     return !canonical.isEmpty() && canonical == QFileInfo(b).canonicalFilePath();
 }
 
-/// @throws CKvDxfError when the drawing must not take the place of the file that it was read from.
-void requireOwnFile(const CKvDrawingStore &store, const QString &path)
-{
-    if (store.image()->isConverted()) {
-        throw CKvDxfError(
-            path, 0, QStringLiteral("A DWG file can't be written. Save the drawing as DXF."));
-    }
-    if (store.ownFile && CKvFileIdentity::ofPath(path) != store.ownFile) {
-        throw CKvDxfError(path,
-                          0,
-                          QStringLiteral("The file can't be written: it was changed by somebody "
-                                         "else since it was read."));
-    }
-}
-
 /// Where the new name or the old one says so by its end, that counts; otherwise a drawing stays
 /// what it was.
 bool isToBePacked(const CKvFileImage &image, const QString &path)
@@ -82,12 +67,28 @@ QByteArray CKvDrawingFile::toBytes(const OdDbDatabase &drawing)
     return bytes;
 }
 
+void CKvDrawingFile::requireReplaceable(const OdDbDatabase &drawing, const QString &path)
+{
+    const CKvDrawingStore &store = drawing.store();
+    if (!namesOneFile(path, store.image()->path())) {
+        return;
+    }
+    if (store.image()->isConverted()) {
+        throw CKvDxfError(
+            path, 0, QStringLiteral("A DWG file can't be written. Save the drawing as DXF."));
+    }
+    if (store.ownFile && CKvFileIdentity::ofPath(path) != store.ownFile) {
+        throw CKvDxfError(path,
+                          0,
+                          QStringLiteral("The file can't be written: it was changed by somebody "
+                                         "else since it was read."));
+    }
+}
+
 void CKvDrawingFile::save(const OdDbDatabase &drawing, const QString &path)
 {
+    requireReplaceable(drawing, path);
     CKvDrawingStore &store = drawing.store();
-    if (namesOneFile(path, store.image()->path())) {
-        requireOwnFile(store, path);
-    }
     const CKvDrawingWriter writer(store);
     CKvFileReplacement file(path);
     const auto write = [&](std::string_view piece) { file.write(piece); };

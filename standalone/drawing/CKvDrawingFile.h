@@ -29,6 +29,9 @@ public:
     /// @throws CKvDxfError, also when the path is that of the drawing's own file and somebody has
     /// changed it since, or it is a DWG file; the old file is then as it was.
     static void save(const OdDbDatabase &drawing, const QString &path);
+    /// For what must be known before anything else is written.
+    /// @throws CKvDxfError when save would refuse to replace the drawing's own file.
+    static void requireReplaceable(const OdDbDatabase &drawing, const QString &path);
 
     /// True when saving would write other bytes than were read.
     static bool isChanged(const OdDbDatabase &drawing);

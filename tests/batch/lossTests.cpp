@@ -141,3 +141,28 @@ TEST_F(BatchLoss, ACopyReplacesNothingThatTheRunReads)
                   "are read.\n");
     EXPECT_EQ(start("fix red.dxf -s red.dxf.bak --in-place --no-backup").status, 0);
 }
+
+TEST_F(BatchLoss, ADwgFileIsRepairedIntoADxfFileAndNeverReplaced)
+{
+    const QByteArray dwg = "AC1015 and what only other programs can read";
+    write(QStringLiteral("plans/plan.DWG"), dwg);
+    write(QStringLiteral("plans/plan.DWG.bak"), "an older copy");
+    // Stands for the program that reads such files: copies a drawing to the file behind -o.
+    write(QStringLiteral("bin/dwg2dxf"), "#!/bin/sh\ncp red.dxf \"$3\"\n");
+    setPermissions(QStringLiteral("bin/dwg2dxf"),
+                   QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
+    setEnvironment(QStringLiteral("PATH"),
+                   path(QStringLiteral("bin")) + QStringLiteral(":/usr/bin:/bin"));
+
+    const CKvBatchRun moved = start("fix plans/plan.DWG -s std.dxf -o out -f json");
+    const CKvBatchRun inPlace = start("fix plans/plan.DWG -s std.dxf --in-place");
+
+    EXPECT_EQ(moved.status, 0) << ::testing::PrintToString(moved);
+    EXPECT_EQ(firstDrawing(moved).at("output"), "out/plan.dxf");
+    EXPECT_EQ(files(QStringLiteral("out")), "plan.dxf");
+    EXPECT_EQ(start("check out/plan.dxf -s std.dxf").status, 0);
+    EXPECT_EQ(inPlace.status, 3);
+    EXPECT_THAT(inPlace.output, HasSubstr("plan.DWG: A DWG file can't be written."));
+    EXPECT_EQ(bytes(QStringLiteral("plans/plan.DWG")), dwg);
+    EXPECT_EQ(bytes(QStringLiteral("plans/plan.DWG.bak")), "an older copy");
+}
