@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "CKvForeignMemory.h"
 #include "CKvUtilsBase.h"
 #include "CKvVerifyBench.h"
 
@@ -170,6 +171,8 @@ TEST(SessionIgnore, SpaceTicksTheBox)
 
 TEST(SessionIgnore, ADrawingWithoutRoomForStampsLeavesTheBoxAsItWas)
 {
+    // Qt loses track of a button whose click throws.
+    const CKvForeignMemory lostByQt;
     CKvVerifyBench bench(kTwo, CKvDrawingBuilder("AC1009"));
     bench.show();
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "CKvFakeManager.h"
+#include "CKvForeignMemory.h"
 #include "CKvVerifyBench.h"
 #include "OdDbDictionary.h"
 #include "OdDbXrecord.h"
@@ -81,6 +82,11 @@ protected:
         EXPECT_FALSE(m_bench.dialog().isVisible());
         EXPECT_EQ(m_bench.dialog().result(), 1);
     }
+};
+
+/// Qt loses track of a button whose click throws.
+class SessionOptionsFailure : private CKvForeignMemory, public SessionOptions
+{
 };
 
 } // namespace
@@ -187,7 +193,7 @@ TEST_F(SessionOptions, WithoutAManagerTheCategoriesAreNotCompared)
     SetKvStandardManager(&m_manager);
 }
 
-TEST_F(SessionOptions, AListThatIsNoDictionaryIsToldToTheHost)
+TEST_F(SessionOptionsFailure, AListThatIsNoDictionaryIsToldToTheHost)
 {
     const auto damage = [this] {
         const OdDbDictionaryPtr named(
@@ -201,7 +207,7 @@ TEST_F(SessionOptions, AListThatIsNoDictionaryIsToldToTheHost)
     expectGoingOn();
 }
 
-TEST_F(SessionOptions, AnEntryThatIsNoXrecordIsToldToTheHost)
+TEST_F(SessionOptionsFailure, AnEntryThatIsNoXrecordIsToldToTheHost)
 {
     const auto damage = [this] {
         const OdDbDictionaryPtr named(
