@@ -175,13 +175,10 @@ TEST_F(InteractiveCheck, WhileADialogIsOpenAnEditWaits)
 TEST_F(InteractiveCheck, TheCommandsOfAScriptAreCheckedWhenTheScriptEnds)
 {
     keepObject();
-    CKvHostCommandContext &context = *session->documentManager()->active()->commandContext();
     bool isPostedInTheScript = true;
     const CKvStackedCommand script(*session, "_LOADSCRIPT", [&] {
-        context.enterScript();
         session->commandLine().runScript({ QStringLiteral("RECOLOR"), QStringLiteral("RECOLOR") });
         isPostedInTheScript = hasPosted();
-        context.leaveScript();
     });
 
     session->commandLine().run(QStringLiteral("LOADSCRIPT"));
