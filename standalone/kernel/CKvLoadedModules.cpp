@@ -28,7 +28,8 @@ void *openFile(const QString &path, QString &reason)
     reason = file ? QString() : QStringLiteral("error %1").arg(GetLastError());
 #else
     // All symbols at once: a module that misses something of this host fails here, not later.
-    void *file = dlopen(QFile::encodeName(path).constData(), RTLD_NOW | RTLD_LOCAL);
+    // Its memory stays: Qt's own tables keep texts of modules until the program ends.
+    void *file = dlopen(QFile::encodeName(path).constData(), RTLD_NOW | RTLD_LOCAL | RTLD_NODELETE);
     reason = file ? QString() : QString::fromLocal8Bit(dlerror());
 #endif
     return file;

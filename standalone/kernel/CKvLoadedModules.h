@@ -22,7 +22,7 @@ public:
     /// @throws OdError when the file is no module, and with the code and text of what its start
     /// throws; it is unloaded again then.
     void load(const QString &path);
-    /// Stops a module and unloads its file.
+    /// Stops a module and lets its file go, whose memory may stay.
     /// @return false when it is not loaded.
     /// @throws what its stop throws; it stays loaded then.
     bool unload(const QString &path);
