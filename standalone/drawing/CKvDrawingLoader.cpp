@@ -168,14 +168,14 @@ void CKvDrawingLoader::endTable(CKvSectionReader &reader, std::size_t offset)
     }
     m_table->setEndInFile(offset);
     const std::optional<CKvTag> count = findTag(m_table->head(), 70);
-    const std::size_t records = m_table->records().size();
+    const std::size_t records = m_records[std::size_t(m_table->kind())];
     const std::size_t reserved = m_reservedRecords[std::size_t(m_table->kind())];
     const std::size_t declared = count ? std::size_t(count->integer(-1)) : records;
-    m_table->setUncountedRecords(std::nullopt);
+    m_table->setUncountedRecords(std::nullopt, records);
     if (count && declared == records) {
-        m_table->setUncountedRecords(0);
+        m_table->setUncountedRecords(0, records);
     } else if (count && declared + reserved == records) {
-        m_table->setUncountedRecords(reserved);
+        m_table->setUncountedRecords(reserved, records);
     } else if (count) {
         const std::string_view name = kTableNames[std::size_t(m_table->kind())];
         reader.warn(m_table->head().begin,
@@ -205,6 +205,7 @@ void CKvDrawingLoader::readTables(CKvSectionReader &reader)
             slot.owner = &m_table->head();
             m_store->registerHandle(slot);
             m_table->add(slot);
+            ++m_records[std::size_t(m_table->kind())];
             m_reservedRecords[std::size_t(m_table->kind())] +=
                 isReservedRecord(m_table->kind(), slot) ? 1 : 0;
         }

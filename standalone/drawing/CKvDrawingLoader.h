@@ -33,7 +33,9 @@ private:
     CKvFileImagePtr m_image;
     std::unique_ptr<CKvDrawingStore> m_store;
     CKvTable *m_table = nullptr;
-    /// Of each table, counted as its records come: a table may stand in the file many times.
+    /// Of each table, counted as its records come: a table may stand in the file many times, and
+    /// behind blocks that it lacks.
+    std::array<std::size_t, kTableCount> m_records = {};
     std::array<std::size_t, kTableCount> m_reservedRecords = {};
     bool m_hasSeenTables = false;
 };

@@ -30,10 +30,11 @@ public:
     /// None when the number is missing or wrong.
     std::optional<std::size_t> uncountedRecords() const { return m_uncounted; }
     /// To be called when all records of the file are there.
-    void setUncountedRecords(std::optional<std::size_t> count)
+    /// @param recordsInFile without those that were made up for blocks that the table lacks.
+    void setUncountedRecords(std::optional<std::size_t> count, std::size_t recordsInFile)
     {
         m_uncounted = count;
-        m_recordsInFile = m_records.size();
+        m_recordsInFile = recordsInFile;
     }
     std::size_t recordsInFile() const { return m_recordsInFile; }
 

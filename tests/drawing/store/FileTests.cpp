@@ -171,6 +171,19 @@ TEST(Saving, ABlockThatItsTableLacksIsWalkedAndNotCounted)
     EXPECT_EQ(CKvDrawingFile::toBytes(*drawing).toStdString(), bytes.toStdString());
 }
 
+TEST(Saving, TheCountOfATableStaysWhenItStandsBehindABlockThatItLacks)
+{
+    const QByteArray bytes =
+        "0\nSECTION\n2\nBLOCKS\n0\nBLOCK\n2\nWINDOW\n0\nENDBLK\n0\nENDSEC\n0\nSECTION\n2\nTABLES\n"
+        "0\nTABLE\n2\nBLOCK_RECORD\n70\n1\n0\nBLOCK_"
+        "RECORD\n2\nDOOR\n0\nENDTAB\n0\nENDSEC\n0\nEOF\n";
+    const OdDbDatabasePtr drawing = CKvDrawingFile::fromBytes(bytes);
+
+    EXPECT_FALSE(CKvDrawingFile::isChanged(*drawing));
+    EXPECT_TRUE(CKvDrawingFile::warnings(*drawing).isEmpty());
+    EXPECT_EQ(CKvDrawingFile::toBytes(*drawing).toStdString(), bytes.toStdString());
+}
+
 TEST(Saving, TheFileIsReplacedWhole)
 {
     const QTemporaryDir folder;
