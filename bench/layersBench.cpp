@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "CKvBenchFiles.h"
+#include "CKvBenchHost.h"
 #include "CKvDrawingFile.h"
 #include "CKvLayerPluginImpl.h"
-#include "CKvStandaloneServices.h"
-#include "CKvStdsError.h"
-#include "CKvStdsFix.h"
 #include "OdDbBlockTable.h"
 #include "OdDbBlockTableRecord.h"
 #include "OdDbObjectIterator.h"
@@ -32,40 +30,7 @@ void report(benchmark::State &state, double seconds, const QString &path)
     state.counters["x_floor"] = mean / floor;
 }
 
-/// A plug-in with what it needs around it.
-struct CKvBenchHost {
-    CKvBenchHost()
-    {
-        CKvStdsError::rxInit();
-        CKvStdsFix::rxInit();
-    }
-    ~CKvBenchHost()
-    {
-        CKvStdsError::rxUninit();
-        CKvStdsFix::rxUninit();
-    }
-    CKvBenchHost(const CKvBenchHost &) = delete;
-    CKvBenchHost &operator=(const CKvBenchHost &) = delete;
-
-    int audit(const OdDbDatabasePtr &drawing, const QString &standards)
-    {
-        int found = 0;
-        plugin.clear();
-        plugin.setObjectsToCheck({}, /*scanAll*/ true);
-        plugin.openStandards(drawing, CKvString(), {}, { CKvString(standards) });
-        for (plugin.beginScan(nullptr); !plugin.isDone(); plugin.nextError()) {
-            OdArray<CKvStdsFixPtr> fixes;
-            std::int32_t recommended = -1;
-            plugin.collectFixes(plugin.currentError(), fixes, recommended);
-            errors.append(plugin.currentError());
-            ++found;
-        }
-        return found;
-    }
-    CKvStandaloneServices services;
-    CKvLayerPluginImpl plugin;
-    OdArray<CKvStdsErrorPtr> errors;
-};
+using CKvLayerHost = CKvBenchHost<CKvLayerPluginImpl>;
 
 void floorOfAFile(benchmark::State &state)
 {
@@ -83,7 +48,7 @@ void checkADrawing(benchmark::State &state)
     double seconds = 0;
     while (state.KeepRunning()) {
         seconds += secondsOf([&] {
-            CKvBenchHost host;
+            CKvLayerHost host;
             host.audit(CKvDrawingFile::open(path, CKvFileImage::Holding::Mapped), standards);
         });
     }
@@ -130,17 +95,11 @@ void mergeALayerAndSave(benchmark::State &state)
     double seconds = 0;
     while (state.KeepRunning()) {
         seconds += secondsOf([&] {
-            CKvBenchHost host;
+            CKvLayerHost host;
             const OdDbDatabasePtr drawing =
                 CKvDrawingFile::open(path, CKvFileImage::Holding::Mapped);
             host.audit(drawing, standards);
-            CKvString message;
-            for (const CKvStdsErrorPtr &error : host.errors) {
-                OdArray<CKvStdsFixPtr> fixes;
-                std::int32_t recommended = -1;
-                host.plugin.collectFixes(error, fixes, recommended);
-                host.plugin.applyFix(error, fixes.first(), message);
-            }
+            host.repairAll();
             CKvDrawingFile::save(*drawing, files().path(QStringLiteral("merged.dxf")));
         });
     }
@@ -155,7 +114,7 @@ double secondsOfAnAudit(int layers, int &found)
     const QString path = files().drawing(QStringLiteral("layers-%1.dxf").arg(layers), content);
     const QString standards = files().standardsOf(layers);
     return secondsOf([&] {
-        CKvBenchHost host;
+        CKvLayerHost host;
         found = host.audit(CKvDrawingFile::open(path), standards);
     });
 }
