@@ -21,8 +21,7 @@ namespace
 QString drawingOf(int count, int variant)
 {
     static const QTemporaryDir s_folder;
-    const QString path =
-        s_folder.filePath(QStringLiteral("records-%1-%2.dxf").arg(count).arg(variant));
+    QString path = s_folder.filePath(QStringLiteral("records-%1-%2.dxf").arg(count).arg(variant));
     if (!QFile::exists(path) && !CKvBenchRecords { count, variant }.write(path)) {
         qFatal("can't write %s", qPrintable(path));
     }

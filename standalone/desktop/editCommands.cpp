@@ -91,7 +91,7 @@ std::vector<OdDbObjectId> askEntities(CKvDesktop &desktop)
         return { selected.begin(), selected.end() };
     }
     const QString word = desktop.commandLine().ask(CKvMainWindow::tr("[Last/All] or a handle:"));
-    const std::vector<OdDbObjectId> all = entitiesOfModelSpace(document);
+    std::vector<OdDbObjectId> all = entitiesOfModelSpace(document);
     if (word.compare(QLatin1String("ALL"), Qt::CaseInsensitive) == 0) {
         return all;
     }

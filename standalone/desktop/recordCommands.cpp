@@ -15,7 +15,10 @@
 #include "recordNames.h"
 #include "recordTables.h"
 
+#include <algorithm>
 #include <cmath>
+#include <cstdint>
+#include <limits>
 
 namespace
 {
@@ -98,7 +101,9 @@ void switchLayer(CKvDesktop &desktop, bool isOn)
     const OdDbLayerTableRecordPtr layer = askLayer(desktop);
     CKvObjectSlot &slot = CKvObjectAccess::beginChange(*layer);
     const std::optional<CKvTag> color = findTag(slot, 62);
-    const int number = color ? int(std::abs(color->integer())) : 7;
+    constexpr std::int64_t kMost = std::numeric_limits<int>::max();
+    const int number =
+        color ? int(std::abs(std::clamp<std::int64_t>(color->integer(), -kMost, kMost))) : 7;
     setTag(slot, 62, std::to_string(isOn ? number : -number), { 70, 2 });
 }
 

@@ -46,7 +46,7 @@ QString checkedText(const QString &name, const OdResBuf &present, const QString 
 /// Null when there is no such variable.
 OdResBufPtr variable(CKvDesktop &desktop, const QString &name)
 {
-    if (const OdResBufPtr own = hostVariable(name)) {
+    if (OdResBufPtr own = hostVariable(name)) {
         return own;
     }
     const CKvHostDocument &document = desktop.requireDocument();

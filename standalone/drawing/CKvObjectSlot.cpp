@@ -6,7 +6,7 @@
 
 std::string_view CKvObjectSlot::bytes() const
 {
-    if (movedTo != 0) {
+    if (store && movedTo != 0) {
         const std::string_view slice = store->image()->bytes().substr(begin, end - begin);
         own = std::make_unique<std::string>(slice);
         own->replace(layerAt, layerSize, store->movedLayerName(*this));

@@ -7,7 +7,10 @@
 #include "recordNames.h"
 #include "rxConstruction.h"
 
+#include <algorithm>
+#include <cstdint>
 #include <cstdlib>
+#include <limits>
 
 namespace
 {
@@ -63,7 +66,9 @@ OdCmColor OdDbLayerTableRecord::color() const
     const CKvObjectSlot &slot = *CKvObjectAccess::slotOf(*this);
     const std::optional<CKvTag> index = findTag(slot, 62);
     const std::optional<CKvTag> trueColor = findTag(slot, 420);
-    const int number = index ? int(std::abs(index->integer())) : kWhite;
+    constexpr std::int64_t kMost = std::numeric_limits<int>::max();
+    const int number =
+        index ? int(std::abs(std::clamp<std::int64_t>(index->integer(), -kMost, kMost))) : kWhite;
     OdCmColor color = OdCmColor::byIndex(number);
     if (trueColor) {
         const auto rgb = std::uint32_t(trueColor->integer());
