@@ -65,7 +65,7 @@ private:
     void setCommon(const CKvEntityTags &tags, CKvShapeSink &sink);
     std::uint32_t layerIndex(std::string_view encodedName);
     int lineStyleIndex(std::string_view encodedName);
-    CKvPictureLayer readLayer(const CKvObjectSlot &layer);
+    CKvPictureLayer readLayer(const CKvObjectSlot &slot);
 
     CKvDrawingStore &m_store;
     CKvPicture m_picture;

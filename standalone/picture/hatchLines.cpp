@@ -63,9 +63,12 @@ std::vector<CKvHatchLine> hatchLines(const std::vector<std::vector<QPointF>> &ri
             const double b = (dot(to, across) - base) / spacing;
             const double begin = std::max(std::ceil(std::min(a, b)), first);
             const double end = std::min(std::max(a, b), last + 0.5);
-            for (double line = begin; line < end; ++line) {
-                const QPointF point = from + (to - from) * ((line - a) / (b - a));
-                crossings[std::size_t(line - first)].push_back(dot(point, along));
+            if (!(begin < end)) {
+                continue;
+            }
+            for (auto line = std::size_t(begin - first); first + double(line) < end; ++line) {
+                const QPointF point = from + (to - from) * ((first + double(line) - a) / (b - a));
+                crossings[line].push_back(dot(point, along));
             }
         }
     }

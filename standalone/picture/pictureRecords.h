@@ -10,6 +10,6 @@ class CKvObjectSlot;
 CKvPictureColor entityColor(const CKvEntityTags &tags);
 /// Name, colour, lineweight and state of a layer; a stand-in is white and visible. Its line style
 /// is left to the caller.
-CKvPictureLayer layerRecord(const CKvObjectSlot &layer);
+CKvPictureLayer layerRecord(const CKvObjectSlot &slot);
 /// Dashes of a line style; those that would never end a step are left out.
-CKvPictureLineStyle lineStyleRecord(const CKvObjectSlot &lineStyle);
+CKvPictureLineStyle lineStyleRecord(const CKvObjectSlot &slot);
