@@ -27,7 +27,7 @@ public:
     CKvEntityBuilder &dimension(const CKvDxfValue &dimStyle, const CKvDxfValue &layer = "0");
     CKvEntityBuilder &leader(const CKvDxfValue &dimStyle, const CKvDxfValue &layer = "0");
 
-    const QString &name() const { return m_spec.name; }
+    const QString &name() const { return m_content.name; }
     int flagsOfBlock() const { return m_flags; }
     const QString &pathOfBlock() const { return m_path; }
     const QString &layerOfBlock() const { return m_layer; }

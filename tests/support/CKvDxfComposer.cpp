@@ -14,7 +14,7 @@ QByteArray CKvDxfComposer::compose()
 {
     const auto collect = [this](const auto &records) {
         for (const auto &record : records) {
-            collectHandles(record.spec());
+            collectHandles(record.content());
         }
     };
     collect(m_drawing.m_layers);
@@ -48,11 +48,11 @@ void CKvDxfComposer::collectHandle(const QString &handle)
     }
 }
 
-void CKvDxfComposer::collectHandles(const CKvObjectSpec &spec)
+void CKvDxfComposer::collectHandles(const CKvObjectContent &content)
 {
-    collectHandle(spec.handle);
-    if (spec.extensionDictionary) {
-        collectHandles(*spec.extensionDictionary);
+    collectHandle(content.handle);
+    if (content.extensionDictionary) {
+        collectHandles(*content.extensionDictionary);
     }
 }
 
@@ -112,7 +112,7 @@ void CKvDxfComposer::composeBlockMark(const CKvBlockBuilder &block,
                                       const QString &type,
                                       const QString &subclass)
 {
-    CKvObjectSpec mark;
+    CKvObjectContent mark;
     mark.type = type;
     putHead(mark,
             takeHandle(QString()),
@@ -140,22 +140,22 @@ void CKvDxfComposer::composeEntity(const CKvEntityBuilder &entity,
                                    const QString &owner,
                                    bool isInPaperSpace)
 {
-    const QString handle = takeHandle(entity.spec().handle);
-    putHead(entity.spec(), handle, owner);
+    const QString handle = takeHandle(entity.content().handle);
+    putHead(entity.content(), handle, owner);
     putSubclass(QStringLiteral("AcDbEntity"));
     if (isInPaperSpace) {
         put(67, 1);
     }
     put(entity.commonTags());
-    const CKvSubclass *subclass = subclassOf(entity.spec().type);
+    const CKvSubclass *subclass = subclassOf(entity.content().type);
     if (subclass) {
         putSubclass(QLatin1String(subclass->first));
         if (subclass->second) {
             putSubclass(QLatin1String(subclass->second));
         }
     }
-    put(entity.spec().tags);
-    put(entity.spec().extendedData);
+    put(entity.content().tags);
+    put(entity.content().extendedData);
     for (const CKvEntityBuilder &child : entity.children()) {
         composeEntity(child, handle, isInPaperSpace);
     }
@@ -232,21 +232,23 @@ void CKvDxfComposer::section(const QString &name)
     put(2, name);
 }
 
-void CKvDxfComposer::putHead(const CKvObjectSpec &spec, const QString &handle, const QString &owner)
+void CKvDxfComposer::putHead(const CKvObjectContent &content,
+                             const QString &handle,
+                             const QString &owner)
 {
-    put(0, spec.type);
+    put(0, content.type);
     if (m_drawing.m_hasHandles) {
-        put(spec.type == QLatin1String("DIMSTYLE") ? 105 : 5, handle);
+        put(content.type == QLatin1String("DIMSTYLE") ? 105 : 5, handle);
     }
     if (!hasOwners()) {
         return;
     }
-    if (spec.extensionDictionary) {
-        const QString extension = takeHandle(spec.extensionDictionary->ownHandle());
+    if (content.extensionDictionary) {
+        const QString extension = takeHandle(content.extensionDictionary->ownHandle());
         put(102, "{ACAD_XDICTIONARY");
         put(360, extension);
         put(102, "}");
-        m_pending.push_back({ &*spec.extensionDictionary, extension, handle });
+        m_pending.push_back({ &*content.extensionDictionary, extension, handle });
     }
     put(330, owner);
 }

@@ -25,15 +25,15 @@ private:
 
     bool hasOwners() const { return m_drawing.m_version > QLatin1String("AC1009"); }
     void collectHandle(const QString &handle);
-    void collectHandles(const CKvObjectSpec &spec);
+    void collectHandles(const CKvObjectContent &content);
     void collectHandles(const CKvDictionaryBuilder &object);
     QString takeHandle(const QString &wanted);
 
     void composeTables();
     template <class Records> void composeTable(const QString &type, const Records &records);
-    void composeTable(const QString &type, const std::vector<const CKvObjectSpec *> &records);
-    void composeRecord(const CKvObjectSpec &record, const QString &tableHandle);
-    std::vector<const CKvObjectSpec *> otherRecords(const QString &type) const;
+    void composeTable(const QString &type, const std::vector<const CKvObjectContent *> &records);
+    void composeRecord(const CKvObjectContent &record, const QString &tableHandle);
+    std::vector<const CKvObjectContent *> otherRecords(const QString &type) const;
     void composeApplications();
     void composeBlocks();
     void composeBlock(const CKvBlockBuilder &block, bool withEntities);
@@ -48,7 +48,7 @@ private:
     void section(const QString &name);
     void endSection() { put(0, "ENDSEC"); }
     /// Group 0, handle, extension dictionary and owner.
-    void putHead(const CKvObjectSpec &spec, const QString &handle, const QString &owner);
+    void putHead(const CKvObjectContent &content, const QString &handle, const QString &owner);
     void putSubclass(const QString &name);
     void put(int code, const CKvDxfValue &value) { m_tags.push_back({ code, value.text, {} }); }
     void put(const CKvDxfTags &tags);

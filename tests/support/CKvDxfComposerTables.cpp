@@ -7,7 +7,7 @@ void CKvDxfComposer::composeTables()
 {
     section(QStringLiteral("TABLES"));
     for (const char *type : { "VPORT", "VIEW", "UCS" }) {
-        const std::vector<const CKvObjectSpec *> records = otherRecords(QLatin1String(type));
+        const std::vector<const CKvObjectContent *> records = otherRecords(QLatin1String(type));
         if (!records.empty()) {
             composeTable(QLatin1String(type), records);
         }
@@ -18,22 +18,22 @@ void CKvDxfComposer::composeTables()
     composeApplications();
     composeTable(QStringLiteral("DIMSTYLE"), m_drawing.m_dimStyles);
     if (hasOwners()) {
-        std::vector<const CKvObjectSpec *> blocks { &m_drawing.m_modelSpace.spec(),
-                                                    &m_drawing.m_paperSpace.spec() };
+        std::vector<const CKvObjectContent *> blocks { &m_drawing.m_modelSpace.content(),
+                                                       &m_drawing.m_paperSpace.content() };
         for (const CKvBlockBuilder &block : m_drawing.m_blocks) {
-            blocks.push_back(&block.spec());
+            blocks.push_back(&block.content());
         }
         composeTable(QStringLiteral("BLOCK_RECORD"), blocks);
     }
     endSection();
 }
 
-std::vector<const CKvObjectSpec *> CKvDxfComposer::otherRecords(const QString &type) const
+std::vector<const CKvObjectContent *> CKvDxfComposer::otherRecords(const QString &type) const
 {
-    std::vector<const CKvObjectSpec *> records;
+    std::vector<const CKvObjectContent *> records;
     for (const CKvTableRecordBuilder &record : m_drawing.m_otherRecords) {
-        if (record.spec().type == type) {
-            records.push_back(&record.spec());
+        if (record.content().type == type) {
+            records.push_back(&record.content());
         }
     }
     return records;
@@ -44,7 +44,7 @@ void CKvDxfComposer::composeApplications()
     std::set<QString> names { QStringLiteral("ACAD") };
     const auto collect = [&names](const auto &records) {
         for (const auto &record : records) {
-            for (const CKvDxfTag &tag : record.spec().extendedData) {
+            for (const CKvDxfTag &tag : record.content().extendedData) {
                 if (tag.code == 1001) {
                     names.insert(tag.value);
                 }
@@ -62,15 +62,15 @@ void CKvDxfComposer::composeApplications()
     collect(m_drawing.m_modelSpace.entities());
     collect(m_drawing.m_paperSpace.entities());
 
-    std::vector<const CKvObjectSpec *> records = otherRecords(QStringLiteral("APPID"));
-    for (const CKvObjectSpec *record : records) {
+    std::vector<const CKvObjectContent *> records = otherRecords(QStringLiteral("APPID"));
+    for (const CKvObjectContent *record : records) {
         names.erase(record->name);
     }
     std::vector<CKvTableRecordBuilder> made;
     made.reserve(names.size());
     for (const QString &name : names) {
         made.emplace_back(QStringLiteral("APPID"), name);
-        records.push_back(&made.back().spec());
+        records.push_back(&made.back().content());
     }
     composeTable(QStringLiteral("APPID"), records);
 }
@@ -78,15 +78,15 @@ void CKvDxfComposer::composeApplications()
 template <class Records>
 void CKvDxfComposer::composeTable(const QString &type, const Records &records)
 {
-    std::vector<const CKvObjectSpec *> specs;
+    std::vector<const CKvObjectContent *> listed;
     for (const auto &record : records) {
-        specs.push_back(&record.spec());
+        listed.push_back(&record.content());
     }
-    composeTable(type, specs);
+    composeTable(type, listed);
 }
 
 void CKvDxfComposer::composeTable(const QString &type,
-                                  const std::vector<const CKvObjectSpec *> &records)
+                                  const std::vector<const CKvObjectContent *> &records)
 {
     const QString handle = takeHandle(QString());
     put(0, "TABLE");
@@ -100,13 +100,13 @@ void CKvDxfComposer::composeTable(const QString &type,
     if (hasOwners() && type == QLatin1String("DIMSTYLE")) {
         putSubclass(QStringLiteral("AcDbDimStyleTable"));
     }
-    for (const CKvObjectSpec *record : records) {
+    for (const CKvObjectContent *record : records) {
         composeRecord(*record, handle);
     }
     put(0, "ENDTAB");
 }
 
-void CKvDxfComposer::composeRecord(const CKvObjectSpec &record, const QString &tableHandle)
+void CKvDxfComposer::composeRecord(const CKvObjectContent &record, const QString &tableHandle)
 {
     const QString handle = takeHandle(record.handle);
     // Of two records of one name the first is meant.

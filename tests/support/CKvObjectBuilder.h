@@ -8,7 +8,7 @@
 #include <vector>
 
 /// What table records and entities have in common, as the writer of the drawing needs it.
-struct CKvObjectSpec {
+struct CKvObjectContent {
     /// Behind group 0.
     QString type;
     /// Group 2 of a table record; empty for an entity.
@@ -28,50 +28,50 @@ public:
     /// Adds a group, also beside one of the same code.
     Derived &group(int code, const CKvDxfValue &value)
     {
-        m_spec.tags.append(code, value);
+        m_content.tags.append(code, value);
         return self();
     }
     /// Adds a group that holds the handle of a record: handleOf(340, "STYLE", "NOTES").
     Derived &handleOf(int code, const CKvDxfValue &table, const CKvDxfValue &name)
     {
-        m_spec.tags.appendHandleOf(code, table.text, name.text);
+        m_content.tags.appendHandleOf(code, table.text, name.text);
         return self();
     }
     /// Leaves out a group that the builder writes of its own accord.
     Derived &without(int code)
     {
-        m_spec.tags.remove(code);
+        m_content.tags.remove(code);
         return self();
     }
     /// Group 70.
     Derived &flags(int flags)
     {
-        m_spec.tags.set(70, flags);
+        m_content.tags.set(70, flags);
         return self();
     }
     /// Extended data of an application, which is entered in the APPID table.
     Derived &extendedData(const CKvDxfValue &application,
                           const std::vector<std::pair<int, CKvDxfValue>> &groups)
     {
-        m_spec.extendedData.append(1001, application);
+        m_content.extendedData.append(1001, application);
         for (const auto &[code, value] : groups) {
-            m_spec.extendedData.append(code, value);
+            m_content.extendedData.append(code, value);
         }
         return self();
     }
     /// Gives the object this handle, not the next free one.
     Derived &handle(const CKvDxfValue &handle)
     {
-        m_spec.handle = handle.text;
+        m_content.handle = handle.text;
         return self();
     }
     /// The object's extension dictionary, made when it is missing.
     CKvDictionaryBuilder &extensionDictionary()
     {
-        if (!m_spec.extensionDictionary) {
-            m_spec.extensionDictionary.emplace();
+        if (!m_content.extensionDictionary) {
+            m_content.extensionDictionary.emplace();
         }
-        return *m_spec.extensionDictionary;
+        return *m_content.extensionDictionary;
     }
     /// Stamps the object's violation: flag 1 and the user's name, or 0 and no name.
     Derived &stamped(int flag, const CKvDxfValue &user)
@@ -84,20 +84,20 @@ public:
         return self();
     }
 
-    const CKvObjectSpec &spec() const { return m_spec; }
+    const CKvObjectContent &content() const { return m_content; }
 
 protected:
     CKvObjectBuilder(const QString &type, const QString &name)
     {
-        m_spec.type = type;
-        m_spec.name = name;
+        m_content.type = type;
+        m_content.name = name;
     }
     Derived &set(int code, const CKvDxfValue &value)
     {
-        m_spec.tags.set(code, value);
+        m_content.tags.set(code, value);
         return self();
     }
     Derived &self() { return static_cast<Derived &>(*this); }
 
-    CKvObjectSpec m_spec;
+    CKvObjectContent m_content;
 };
