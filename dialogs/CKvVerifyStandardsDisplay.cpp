@@ -3,7 +3,7 @@
 
 #include "CKvDocument.h"
 #include "CKvUtilsBase.h"
-#include "formatPropertyValue.h"
+#include "formatValue.h"
 #include "ui_CKvVerifyStandards.h"
 
 #include <QDir>
@@ -66,8 +66,8 @@ void fillPreviewRow(QTableWidget &table,
         table.setItem(row, column, newItem(text.toQString(), text.toQString()));
     };
     set(kPreviewProperty, name);
-    set(kPreviewCurrent, formatPropertyValue(current));
-    set(kPreviewStandard, formatPropertyValue(standard));
+    set(kPreviewCurrent, formatValue(current));
+    set(kPreviewStandard, formatValue(standard));
 }
 
 } // namespace

@@ -6,7 +6,7 @@
 #include "OdDbLayerTableRecord.h"
 #include "OdDbSymbolTable.h"
 #include "OdDbTextStyleTableRecord.h"
-#include "formatPropertyValue.h"
+#include "formatValue.h"
 #include "violationStamp.h"
 
 #include <algorithm>
@@ -22,7 +22,7 @@ void readValues(CKvRecordListing &entry,
         // The name stands before the values.
         if (property.name.toQString() != QLatin1String("Name")) {
             entry.properties.emplace_back(property.name.toQString(),
-                                          formatPropertyValue(property.value).toQString());
+                                          formatValue(property.value).toQString());
         }
     }
     std::sort(entry.properties.begin(), entry.properties.end());

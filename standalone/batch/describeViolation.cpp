@@ -2,7 +2,7 @@
 #include "describeViolation.h"
 
 #include "CKvStdsPluginFrame.h"
-#include "formatPropertyValue.h"
+#include "formatValue.h"
 
 namespace
 {
@@ -30,8 +30,8 @@ std::vector<CKvDifferenceReport> differences(const CKvStdsViolation &violation,
         // A preview has no row for values that can't be compared.
         if (before && after && before->restype() == after->restype()) {
             rows.push_back({ names[i].toQString(),
-                             formatPropertyValue(before).toQString(),
-                             formatPropertyValue(after).toQString() });
+                             formatValue(before).toQString(),
+                             formatValue(after).toQString() });
         }
     }
     return rows;
@@ -77,7 +77,7 @@ CKvViolationReport describeViolation(const CKvStdsViolation &violation,
     report.isIgnored = violation.ignored;
     report.ignoredBy = violation.ignoredBy.toQString();
     for (const auto &[name, value] : error.properties()) {
-        report.properties.emplace_back(name.toQString(), formatPropertyValue(value).toQString());
+        report.properties.emplace_back(name.toQString(), formatValue(value).toQString());
     }
     report.candidates = int(violation.fixes.size());
     report.recommended = violation.recommendedFix;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "formatPropertyValue.h"
+#include "formatValue.h"
 
-CKvString formatPropertyValue(const OdResBufPtr &value)
+CKvString formatValue(const OdResBufPtr &value)
 {
     CKvString text;
     switch (value ? value->restype() : int(OdResBuf::kRtNoType)) {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "formatPropertyValue.h"
+#include "formatValue.h"
 
 #include <gtest/gtest.h>
 
@@ -8,7 +8,7 @@ namespace
 
 std::string formatted(const OdResBufPtr &value)
 {
-    return formatPropertyValue(value).toQString().toStdString();
+    return formatValue(value).toQString().toStdString();
 }
 
 } // namespace

@@ -6,4 +6,4 @@
 
 /// A property's value as the preview shows it: texts as they are, colours by name, reals with four
 /// decimals. Empty for null and for a type that no property has.
-CKvString formatPropertyValue(const OdResBufPtr &value);
+CKvString formatValue(const OdResBufPtr &value);
