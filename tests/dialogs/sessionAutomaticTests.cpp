@@ -31,6 +31,20 @@ TEST(SessionAutomatic, EveryEntryIsRepairedAndOneSummaryTellsOfAll)
     EXPECT_THAT(bench.summaries(), ElementsAre("3, 3, 0, 0", "0, 0, 0, 0"));
 }
 
+TEST(SessionAutomatic, RepairedEntriesThatStayListedAreNotShownAgain)
+{
+    CKvVerifyBench bench(kThree);
+    bench.host().setFixAutomatically(true);
+    bench.dialog().setSkipSummary(true);
+    bench.show();
+
+    bench.dialog().setSkipSummary(false);
+    bench.click("NextIssueButton");
+
+    EXPECT_THAT(bench.summaries(), ElementsAre("3, 3, 0, 0"));
+    EXPECT_EQ(bench.shown(), "");
+}
+
 TEST(SessionAutomatic, AnEmptyListHasNothingToRepair)
 {
     CKvVerifyBench bench({});

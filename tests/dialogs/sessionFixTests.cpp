@@ -41,6 +41,18 @@ TEST(SessionFix, FixRepairsByTheCandidateThatTheUserHasChosen)
     EXPECT_THAT(bench.takeRepairs(), ElementsAre("layers.applyFix A <- OTHER ''"));
 }
 
+TEST(SessionFix, AChoiceOfTheFirstRowStandsAgainstTheRecommendation)
+{
+    CKvVerifyBench bench(kTwo);
+    bench.violation(0).recommendedFix = 1;
+    bench.show();
+
+    bench.clickCandidate(0);
+    bench.click("FixIssueButton");
+
+    EXPECT_THAT(bench.takeRepairs(), ElementsAre("layers.applyFix A <- A ''"));
+}
+
 TEST(SessionFix, AChoiceByTheKeyboardCountsAsMuch)
 {
     CKvVerifyBench bench(kTwo);

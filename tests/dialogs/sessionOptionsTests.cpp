@@ -42,6 +42,7 @@ protected:
             m_warnings.push_back(box.windowTitle().toStdString() + ": " + box.text().toStdString());
             EXPECT_EQ(box.parentWidget(), m_bench.host().mainWindow());
             EXPECT_EQ(box.standardButtons(), QMessageBox::Close);
+            EXPECT_EQ(box.defaultButton(), nullptr);
             EXPECT_EQ(box.icon(), QMessageBox::Warning);
             QTest::mouseClick(box.button(QMessageBox::Close), Qt::LeftButton);
         });

@@ -4,6 +4,7 @@
 
 #include <QDialogButtonBox>
 #include <QPushButton>
+#include <QShowEvent>
 #include <QTest>
 
 #include <gmock/gmock.h>
@@ -323,6 +324,31 @@ TEST(SessionWalk, EachShowTakesAFirstStep)
     bench.show();
 
     EXPECT_EQ(bench.shown(), "B");
+}
+
+TEST(SessionWalk, AShowThatTheSystemReportsTakesNoStep)
+{
+    CKvVerifyBench bench(kThree);
+    bench.show();
+    QShowEvent restored;
+    QSpontaneKeyEvent::setSpontaneous(&restored);
+
+    QCoreApplication::instance()->notify(&bench.dialog(), &restored);
+    CKvVerifyBench::settle();
+
+    EXPECT_EQ(bench.shown(), "A");
+}
+
+TEST(SessionWalk, TheDialogComesUpOverTheMainWindow)
+{
+    CKvVerifyBench bench(kThree);
+    bench.host().mainWindow()->setGeometry(100, 50, 600, 500);
+
+    bench.show();
+
+    const QPoint distance =
+        bench.dialog().geometry().center() - bench.host().mainWindow()->geometry().center();
+    EXPECT_LT(distance.manhattanLength(), 20) << distance.x() << ' ' << distance.y();
 }
 
 TEST(SessionWalk, HelpOpensTheTopicOfTheCommand)

@@ -4,6 +4,7 @@
 #include <gmock/gmock.h>
 
 #include <functional>
+#include <memory>
 
 using testing::ElementsAre;
 
@@ -65,6 +66,25 @@ TEST_P(PreviewValue, IsShownByItsType)
 
     EXPECT_EQ(bench.preview(),
               std::string("Property | ") + GetParam().text + " | " + GetParam().text + '\n');
+}
+
+TEST(Preview, ItHoldsTheDrawingForAsLongAsTheDialogLives)
+{
+    CKvVerifyBench bench(kOne);
+    OdArray<CKvStdsViolation> list;
+    list.append(bench.violation(0));
+    const CKvDatabase &drawing = *bench.document().GetKvDatabase();
+    const long before = drawing.numRefs();
+    auto dialog = std::make_unique<CKvVerifyStandards>(bench.host().mainWindow());
+    dialog->setViolations(list);
+
+    dialog->show();
+    CKvVerifyBench::settle();
+    const long previewed = drawing.numRefs();
+    dialog.reset();
+
+    EXPECT_EQ(previewed, before + 1);
+    EXPECT_EQ(drawing.numRefs(), before);
 }
 
 TEST(Preview, ValuesOfTwoTypesLeaveABlankRowInItsPlace)
