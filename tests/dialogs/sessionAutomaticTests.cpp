@@ -178,3 +178,20 @@ TEST(SessionAutomatic, AnEntryWithoutAnErrorIsPassedOver)
     EXPECT_THAT(bench.takeRepairs(), ElementsAre("layers.applyFix A <- A ''"));
     EXPECT_THAT(bench.summaries(), IsEmpty());
 }
+
+TEST(SessionAutomatic, BehindAnEntryWithoutAnErrorTheRepairIsMarkedOnThatEntry)
+{
+    CKvVerifyBench bench(kThree);
+    bench.host().setFixAutomatically(true);
+    bench.violation(1).error = CKvStdsErrorPtr();
+
+    bench.show();
+    const std::string shown = bench.shown();
+    bench.click("NextIssueButton");
+
+    // B stood still when C was repaired, so C is shown and counts as not repaired.
+    EXPECT_THAT(bench.takeRepairs(),
+                ElementsAre("layers.applyFix A <- A ''", "layers.applyFix C <- C ''"));
+    EXPECT_EQ(shown, "C");
+    EXPECT_THAT(bench.summaries(), ElementsAre("3, 2, 0, 0"));
+}

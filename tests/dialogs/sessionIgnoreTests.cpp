@@ -116,6 +116,18 @@ TEST(SessionIgnore, IgnoredEntriesAreShownWithTheNameOfTheirStampWhenTheSettingS
     EXPECT_TRUE(bench.widget<QCheckBox>(kBox).isChecked());
 }
 
+TEST(SessionIgnore, BetweenWalksTheBoxIsNotTicked)
+{
+    CKvVerifyBench bench({ QStringLiteral("A") });
+    bench.show();
+    bench.click(kBox);
+
+    bench.click("NextIssueButton");
+
+    EXPECT_FALSE(bench.widget<QCheckBox>(kBox).isChecked());
+    EXPECT_EQ(ignoredBy(bench), "");
+}
+
 TEST(SessionIgnore, TheSettingIsReadAtEachStep)
 {
     CKvVerifyBench bench({ QStringLiteral("A"), QStringLiteral("B"), QStringLiteral("C") });

@@ -221,6 +221,20 @@ TEST(SessionWalk, AnEntryWithoutAnErrorIsBlankAndCantBeFixedOrIgnored)
     EXPECT_THAT(bench.takeRepairs(), IsEmpty());
 }
 
+TEST(SessionWalk, TheSummaryIsAChildOfTheDialog)
+{
+    CKvVerifyBench bench({});
+    const QWidget *parent = nullptr;
+    bench.script().answer(QStringLiteral("CKvVerfiyCompleteMessage"), [&parent](QDialog &summary) {
+        parent = summary.parentWidget();
+        summary.reject();
+    });
+
+    bench.show();
+
+    EXPECT_EQ(parent, &bench.dialog());
+}
+
 TEST(SessionWalk, ANewListStartsAgainBeforeItsFirstEntry)
 {
     CKvVerifyBench bench(kThree);

@@ -181,6 +181,37 @@ TEST(VerifyDisplay, ABoxTickedInThisRunShowsThePresentUserAndKeepsTheEntryWithou
     EXPECT_EQ(bench.text("label_5"), "Ignored by:");
 }
 
+TEST(VerifyDisplay, AnEntryWithoutAnErrorIsSwitchedOnAndNamesNobody)
+{
+    CKvVerifyBench bench({ QStringLiteral("A") });
+    bench.violation(0).error = CKvStdsErrorPtr();
+    bench.show();
+    bench.click("NextIssueButton");
+    const bool isOnBetweenWalks = bench.isOn("ProblemDescLabel");
+
+    bench.click("NextIssueButton");
+
+    EXPECT_FALSE(isOnBetweenWalks);
+    EXPECT_TRUE(bench.isOn("ProblemDescLabel"));
+    EXPECT_TRUE(bench.isOn("FixIssueButton"));
+    EXPECT_EQ(bench.text("label_5"), "");
+}
+
+TEST(VerifyDisplay, BehindAnIgnoredEntryOneWithoutAnErrorKeepsTheCaptionOfTheName)
+{
+    CKvVerifyBench bench(kTwo);
+    bench.host().setShowIgnored(true);
+    bench.setIgnored(0, "anna");
+    bench.violation(1).error = CKvStdsErrorPtr();
+    bench.show();
+
+    bench.click("NextIssueButton");
+
+    EXPECT_FALSE(bench.widget<QCheckBox>("IgnoreViolationCheckBox").isChecked());
+    EXPECT_EQ(bench.text("label_5"), "Ignored by:");
+    EXPECT_EQ(bench.text("IgnoredByLoginNameLabel"), "");
+}
+
 TEST(VerifyDisplay, NamesFromTheDrawingAreNoMarkup)
 {
     CKvVerifyBench bench(kTwo);

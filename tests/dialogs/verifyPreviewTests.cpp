@@ -114,6 +114,30 @@ TEST(Preview, AValueThatIsMissingLeavesABlankRow)
     EXPECT_EQ(bench.preview(), "\n\nThird | x | x\n");
 }
 
+TEST(Preview, ABlankRowShowsNothingOfTheCandidateBefore)
+{
+    CKvVerifyBench bench(kOne);
+    bench.show();
+    bench.plugin().previewRow("Name", textValue(CKvString("x")), OdResBufPtr());
+
+    bench.clickCandidate(1);
+
+    EXPECT_EQ(bench.preview(), "\n");
+}
+
+TEST(Preview, AFailureLeavesTheLabelsAsTheTableOfCandidatesSetsThem)
+{
+    CKvVerifyBench bench(kOne);
+    bench.plugin().previewName("Property");
+
+    const std::vector<std::string> failures = bench.failuresOf([&] { bench.show(); });
+
+    EXPECT_EQ(failures.size(), 1U);
+    EXPECT_EQ(bench.text("ObjectTypeLabel"), "Layer:");
+    EXPECT_EQ(bench.text("ObjectNameLabel"), "A");
+    EXPECT_EQ(bench.text("ProblemDescLabel"), "Layer properties are non-standard.");
+}
+
 TEST(Preview, TooFewCurrentValuesAreAnError)
 {
     CKvVerifyBench bench(kOne);
