@@ -32,16 +32,20 @@ QStringList listedInputs(const QString &filesFrom, QString &error)
         error = QStringLiteral("The list %1 can't be read: %2.").arg(filesFrom, file.errorString());
         return {};
     }
-    QString text = QString::fromUtf8(file.readAll());
+    // With its length: without it the text would end at the first zero.
+    const QByteArray bytes = file.readAll();
+    QString text = QString::fromUtf8(bytes.constData(), bytes.size());
     if (text.startsWith(QChar(QChar::ByteOrderMark))) {
         text.remove(0, 1);
     }
+    // No path has a zero in it: a list with zeros comes from "find -print0".
+    const QChar zero(QChar::Null);
     QStringList inputs;
-    for (QString &line : text.split(QLatin1Char('\n'))) {
+    for (QString &line : text.split(text.contains(zero) ? zero : QChar(QChar::LineFeed))) {
         if (line.endsWith(QLatin1Char('\r'))) {
             line.chop(1);
         }
-        if (!line.isEmpty()) {
+        if (!line.trimmed().isEmpty()) {
             inputs << line;
         }
     }

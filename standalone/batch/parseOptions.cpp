@@ -77,8 +77,10 @@ std::string timeoutFault(const std::string &text)
 
 void addRunOptions(CLI::App &command, CKvRunOptions &run)
 {
-    addTexts(
-        command, "DRAWING", run.inputs, "Drawings; a folder stands for every .dxf and .dws in it")
+    addTexts(command,
+             "DRAWING",
+             run.inputs,
+             "Drawings; a folder stands for every .dxf and .dws below it")
         ->type_name("");
     addText(command,
             "--files-from",

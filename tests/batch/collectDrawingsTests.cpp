@@ -79,3 +79,21 @@ TEST_F(CollectDrawings, AListThatCannotBeReadIsAnError)
     EXPECT_TRUE(list.drawings.empty());
     EXPECT_EQ(list.errors.size(), 1);
 }
+
+TEST_F(CollectDrawings, AListIsReadByLinesOrByZeros)
+{
+    const auto listed = [this](const QByteArray &text) {
+        QFile file(folder.filePath(QStringLiteral("list")));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(text);
+        file.close();
+        std::string paths;
+        for (const CKvDrawingInput &drawing : collectDrawings({}, file.fileName()).drawings) {
+            paths += drawing.path.toStdString() + "|";
+        }
+        return paths;
+    };
+
+    EXPECT_EQ(listed("a.dxf\r\n  \nb c.dxf\n"), "a.dxf|b c.dxf|");
+    EXPECT_EQ(listed(QByteArray("a.dxf\0b\nc.dxf\0", 14)), "a.dxf|b\nc.dxf|");
+}
