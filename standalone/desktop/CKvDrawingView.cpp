@@ -93,7 +93,7 @@ void CKvDrawingView::remember()
 void CKvDrawingView::zoomExtents()
 {
     const CKvPicture *picture = m_picture.picture();
-    const CKvBox bounds = picture ? picture->modelSpace().bounds : CKvBox();
+    const CKvBox bounds = picture ? picture->visibleBounds() : CKvBox();
     if (m_hasPlace) {
         remember();
     }

@@ -21,6 +21,21 @@ std::uint32_t CKvPicture::fontIndex(const CKvTextFont &font)
     return std::uint32_t(fonts.size() - 1);
 }
 
+CKvBox CKvPicture::visibleBounds() const
+{
+    CKvBox bounds;
+    for (const CKvPictureItem &item : modelSpace().items) {
+        const CKvPictureLayer &layer = layers[item.layer];
+        // What a block shows is on layers of its own, unless the insertion is frozen.
+        const bool isInsert = item.kind == CKvPictureItem::Kind::Insert;
+        const bool isVisible = isInsert ? !layer.isFrozen : layer.isVisible();
+        if (isVisible && !item.isDead && item.kind != CKvPictureItem::Kind::Ray) {
+            bounds.add(item.box);
+        }
+    }
+    return bounds;
+}
+
 void CKvPicture::removeEntity(const CKvObjectSlot &entity)
 {
     for (CKvPictureItem &item : blocks.front().items) {

@@ -38,6 +38,9 @@ public:
     double lineStyleScale = 1;
 
     const Block &modelSpace() const { return blocks.front(); }
+    /// Of what model space shows: without lines that have no end, and without what is on layers
+    /// that are off or frozen.
+    CKvBox visibleBounds() const;
     /// The index of an equal style, entered when it is new.
     std::uint32_t styleIndex(const CKvPictureStyle &style);
     std::uint32_t fontIndex(const CKvTextFont &font);

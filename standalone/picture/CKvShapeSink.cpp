@@ -6,12 +6,31 @@
 namespace
 {
 
+constexpr double kPi = 3.14159265358979323846;
+
+/// Adds the place at the angle, where the arc gets there.
+void addPlace(CKvBox &box, const CKvArcShape &arc, double angle)
+{
+    double turned = std::fmod(angle - arc.start, 2 * kPi);
+    turned += turned < 0 ? 2 * kPi : 0;
+    if (turned <= arc.sweep) {
+        box.add(arc.center + arc.u * std::cos(angle) + arc.v * std::sin(angle));
+    }
+}
+
 CKvBox boxOf(const CKvArcShape &arc)
 {
-    // The whole ellipse: close enough to pass over what is out of sight.
-    const double x = std::hypot(arc.u.x(), arc.v.x());
-    const double y = std::hypot(arc.u.y(), arc.v.y());
-    return { arc.center.x() - x, arc.center.y() - y, arc.center.x() + x, arc.center.y() + y };
+    // Of a flat arc with a large radius it is a small part of the circle.
+    CKvBox box;
+    for (const double angle : { arc.start, arc.start + arc.sweep }) {
+        box.add(arc.center + arc.u * std::cos(angle) + arc.v * std::sin(angle));
+    }
+    const double widest = std::atan2(arc.v.x(), arc.u.x());
+    const double highest = std::atan2(arc.v.y(), arc.u.y());
+    for (const double angle : { widest, widest + kPi, highest, highest + kPi }) {
+        addPlace(box, arc, angle);
+    }
+    return box;
 }
 
 CKvBox boxOf(const CKvTextShape &text)
