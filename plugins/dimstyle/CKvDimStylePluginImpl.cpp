@@ -6,9 +6,9 @@
 #include "CKvStdsDimStyleRecord.h"
 #include "compareDimStyles.h"
 #include "dimStylePropertyLabel.h"
+#include "newPluginClass.h"
 
 #include "OdDbDimStyleTable.h"
-#include "OdRxClass.h"
 
 #include <QRegExp>
 
@@ -16,11 +16,6 @@ namespace
 {
 
 OdRxClass *s_class = nullptr;
-
-OdRxObjectPtr newPlugin()
-{
-    return OdRxObjectPtr(new CKvDimStylePluginImpl, kOdRxObjAttach);
-}
 
 const CKvStdsDimStyleRecord &asDimStyle(const CKvStdsRecord &record)
 {
@@ -57,16 +52,7 @@ OdRxClass *CKvDimStylePluginImpl::desc()
 
 void CKvDimStylePluginImpl::rxInit()
 {
-    s_class = newOdRxClass(OdString("CKvDimStylePluginImpl"),
-                           CKvStdsPlugins::desc(),
-                           &newPlugin,
-                           0,
-                           0,
-                           0,
-                           OdString::kEmpty,
-                           OdString::kEmpty,
-                           nullptr,
-                           0);
+    s_class = newPluginClass<CKvDimStylePluginImpl>("CKvDimStylePluginImpl");
 }
 
 void CKvDimStylePluginImpl::rxUninit()

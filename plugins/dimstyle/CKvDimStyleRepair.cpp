@@ -8,7 +8,7 @@
 CKvDimStyleRepair::CKvDimStyleRepair(OdDbDatabasePtr drawing,
                                      CKvStdsErrorPtr error,
                                      const CKvStdsFixPtr &fix,
-                                     DatabaseSource standardsDatabase)
+                                     CKvStandardsSource standardsDatabase)
     : m_drawing(std::move(drawing))
     , m_error(std::move(error))
     , m_standardsDatabase(std::move(standardsDatabase))

@@ -1,25 +1,21 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "CKvStandardsSource.h"
 #include "CKvStdsError.h"
 #include "CKvStdsFix.h"
 #include "OdDbDimStyleTable.h"
 #include "OdDbDimStyleTableRecord.h"
 
-#include <functional>
-
 /// One repair of a dimension style: changes it, renames it, or moves its users to another one.
 class CKvDimStyleRepair
 {
 public:
-    /// @return the database of a standards file, null when it can't be read.
-    using DatabaseSource = std::function<OdDbDatabasePtr(const CKvString &path)>;
-
     /// @param drawing, error, fix never null.
     CKvDimStyleRepair(OdDbDatabasePtr drawing,
                       CKvStdsErrorPtr error,
                       const CKvStdsFixPtr &fix,
-                      DatabaseSource standardsDatabase);
+                      CKvStandardsSource standardsDatabase);
 
     /// Does nothing when the fix names no style of a file that can be read.
     /// @throws OdError of the drawing, for a name that a style can't have for instance.
@@ -33,7 +29,7 @@ private:
 
     OdDbDatabasePtr m_drawing;
     CKvStdsErrorPtr m_error;
-    DatabaseSource m_standardsDatabase;
+    CKvStandardsSource m_standardsDatabase;
     CKvString m_standardName;
     CKvString m_standardsFile;
     CKvString m_oldName;
