@@ -3,6 +3,9 @@
 
 #include "CKvDrawingFile.h"
 #include "CKvDxfError.h"
+#include "OdDbBlockTable.h"
+#include "OdDbBlockTableRecord.h"
+#include "OdDbObjectIterator.h"
 #include "realDrawings.h"
 
 #include <QFile>
@@ -72,6 +75,27 @@ QByteArray withoutTable(const QByteArray &file, const QByteArray &table)
         isInTable = isInTable && line != "ENDTAB";
     }
     return rest.join('\n');
+}
+
+QMap<QString, int> entitiesBy(const OdDbDatabasePtr &drawing,
+                              const std::function<QString(const OdDbEntityPtr &)> &name)
+{
+    QMap<QString, int> counts;
+    const OdDbBlockTablePtr blocks(drawing->getBlockTableId().openObject());
+    for (OdDbSymbolTableIteratorPtr walk = blocks->newIterator(); !walk->done(); walk->step()) {
+        const OdDbBlockTableRecordPtr block(walk->getRecord());
+        if (block->isFromExternalReference()) {
+            continue;
+        }
+        for (OdDbObjectIteratorPtr entities = block->newIterator(); !entities->done();
+             entities->step()) {
+            const QString counted = name(entities->entity());
+            if (!counted.isEmpty()) {
+                ++counts[counted.toLower()];
+            }
+        }
+    }
+    return counts;
 }
 
 QString CKvRealDrawings::fileIn(const QString &drawing, const QString &what)

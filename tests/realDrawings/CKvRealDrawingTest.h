@@ -5,6 +5,7 @@
 #include "CKvStandaloneServices.h"
 #include "CKvStdsViolation.h"
 #include "OdDbDatabase.h"
+#include "OdDbEntity.h"
 #include "auditText.h"
 
 #include <QByteArray>
@@ -15,6 +16,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <numeric>
 
 /// Lines of one file that the other does not have, each as often as it is missing.
 QMap<QByteArray, int> missingLines(const QByteArray &from, const QByteArray &in);
@@ -26,6 +28,17 @@ QStringList drawingsFrom(const char *version,
 /// What a file holds besides one of its tables and the next free handle; empty for a binary file.
 QByteArray withoutTable(const QByteArray &file, const QByteArray &table);
 QByteArray contentOf(const QString &path);
+/// Counts the entities of all blocks that are not external references.
+/// @param name of what an entity is counted for, whatever the letter case; one without is not
+/// counted.
+/// @return by the names in small letters.
+QMap<QString, int> entitiesBy(const OdDbDatabasePtr &drawing,
+                              const std::function<QString(const OdDbEntityPtr &)> &name);
+/// The counts together.
+template <class Counted> int sum(const QMap<Counted, int> &counts)
+{
+    return std::accumulate(counts.begin(), counts.end(), 0);
+}
 
 /// Repairs of real drawings. What other programs find wrong with them afterwards must have been
 /// wrong before.

@@ -3,7 +3,6 @@
 #include "CKvDrawingBuilder.h"
 #include "CKvDrawingFile.h"
 #include "CKvRealDrawingTest.h"
-#include "OdDbBlockTable.h"
 #include "OdDbBlockTableRecord.h"
 #include "OdDbDimStyleTable.h"
 #include "OdDbDimension.h"
@@ -45,35 +44,17 @@ QStringList ownNames(const OdDbDatabasePtr &drawing)
 /// How many dimensions and leaders of all blocks that are not external references have each style.
 QMap<QString, int> usersByStyle(const OdDbDatabasePtr &drawing)
 {
-    QMap<QString, int> counts;
-    const OdDbBlockTablePtr blocks(drawing->getBlockTableId().openObject());
-    for (OdDbSymbolTableIteratorPtr walk = blocks->newIterator(); !walk->done(); walk->step()) {
-        const OdDbBlockTableRecordPtr block(walk->getRecord());
-        if (block->isFromExternalReference()) {
-            continue;
+    return entitiesBy(drawing, [](const OdDbEntityPtr &entity) {
+        const OdDbDimensionPtr dimension = OdDbDimension::cast(entity.get());
+        const OdDbLeaderPtr leader = OdDbLeader::cast(entity.get());
+        OdDbObjectId style;
+        if (dimension) {
+            style = dimension->dimensionStyle();
+        } else if (leader) {
+            style = leader->dimensionStyle();
         }
-        for (OdDbObjectIteratorPtr entities = block->newIterator(); !entities->done();
-             entities->step()) {
-            const OdDbEntityPtr entity = entities->entity();
-            const OdDbDimensionPtr dimension = OdDbDimension::cast(entity.get());
-            const OdDbLeaderPtr leader = OdDbLeader::cast(entity.get());
-            if (dimension || leader) {
-                const OdDbObjectId style =
-                    dimension ? dimension->dimensionStyle() : leader->dimensionStyle();
-                ++counts[QString::fromStdString(nameOf(style)).toLower()];
-            }
-        }
-    }
-    return counts;
-}
-
-int sum(const QMap<QString, int> &counts)
-{
-    int total = 0;
-    for (const int count : counts) {
-        total += count;
-    }
-    return total;
+        return QString::fromStdString(nameOf(style));
+    });
 }
 
 /// What differs from the standard of the same name, one style a line.

@@ -2,14 +2,11 @@
 #include "CKvDrawingFile.h"
 #include "CKvLayerPluginImpl.h"
 #include "CKvRealDrawingTest.h"
-#include "OdDbBlockTable.h"
-#include "OdDbBlockTableRecord.h"
 #include "OdDbLayerTable.h"
 #include "OdDbLayerTableRecord.h"
 #include "OdDbLinetypeTable.h"
 #include "realDrawings.h"
 
-#include <QFile>
 #include <QSet>
 
 #include <algorithm>
@@ -49,19 +46,8 @@ void writeStandards(const QString &drawing,
 /// How many entities of all blocks that are not external references stand on each layer.
 QMap<QString, int> entitiesByLayer(const OdDbDatabasePtr &drawing)
 {
-    QMap<QString, int> counts;
-    const OdDbBlockTablePtr blocks(drawing->getBlockTableId().openObject());
-    for (OdDbSymbolTableIteratorPtr walk = blocks->newIterator(); !walk->done(); walk->step()) {
-        const OdDbBlockTableRecordPtr block(walk->getRecord());
-        if (block->isFromExternalReference()) {
-            continue;
-        }
-        for (OdDbObjectIteratorPtr entities = block->newIterator(); !entities->done();
-             entities->step()) {
-            ++counts[entities->entity()->layer().toQString().toLower()];
-        }
-    }
-    return counts;
+    return entitiesBy(drawing,
+                      [](const OdDbEntityPtr &entity) { return entity->layer().toQString(); });
 }
 
 class CKvLayerRepairOnRealDrawings : public CKvRealDrawings
@@ -93,9 +79,7 @@ TEST_F(CKvLayerRepairOnRealDrawings, InPlaceOnlyTheValuesOfTheLayersChange)
             path, standards, [](const CKvStdsViolation &found) { return found.recommendedFix; });
 
         EXPECT_TRUE(audit(plugin, drawing, { standards }).empty());
-        QFile file(path);
-        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-        const QByteArray before = file.readAll();
+        const QByteArray before = contentOf(path);
         keepForAudit(path, drawing);
         if (before.contains('\0')) {
             // A binary drawing has no lines to compare.
@@ -107,11 +91,7 @@ TEST_F(CKvLayerRepairOnRealDrawings, InPlaceOnlyTheValuesOfTheLayersChange)
         for (const QByteArray &line : missingLines(after, before).keys()) {
             EXPECT_TRUE(allowed.contains(line)) << line.toStdString();
         }
-        int lost = 0;
-        for (const int count : missingLines(before, after)) {
-            lost += count;
-        }
-        EXPECT_LE(lost, 4 * m_repairs);
+        EXPECT_LE(sum(missingLines(before, after)), 4 * m_repairs);
     }
     expectNoNewErrors();
 }
@@ -177,10 +157,7 @@ TEST_F(CKvLayerRepairOnRealDrawings,
             }
         });
         const OdDbDatabasePtr untouched = CKvDrawingFile::open(path);
-        int total = 0;
-        for (const int count : entitiesByLayer(untouched)) {
-            total += count;
-        }
+        const int total = sum(entitiesByLayer(untouched));
         QStringList gone;
 
         const OdDbDatabasePtr drawing =
@@ -196,11 +173,7 @@ TEST_F(CKvLayerRepairOnRealDrawings,
         merged += gone.size();
         const OdDbDatabasePtr again = CKvDrawingFile::fromBytes(CKvDrawingFile::toBytes(*drawing));
         const QMap<QString, int> counts = entitiesByLayer(again);
-        int totalAfter = 0;
-        for (const int count : counts) {
-            totalAfter += count;
-        }
-        EXPECT_EQ(totalAfter, total);
+        EXPECT_EQ(sum(counts), total);
         for (const QString &name : gone) {
             EXPECT_EQ(counts.value(name.toLower()), 0) << name.toStdString();
             const OdDbSymbolTableRecordPtr current(again->getCLAYER().openObject());

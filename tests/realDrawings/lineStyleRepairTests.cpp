@@ -3,11 +3,8 @@
 #include "CKvDrawingFile.h"
 #include "CKvLineStylePluginImpl.h"
 #include "CKvRealDrawingTest.h"
-#include "OdDbBlockTable.h"
-#include "OdDbBlockTableRecord.h"
 #include "OdDbLinetypeTable.h"
 #include "OdDbLinetypeTableRecord.h"
-#include "OdDbObjectIterator.h"
 #include "drawingText.h"
 #include "realDrawings.h"
 
@@ -44,28 +41,9 @@ QStringList ownNames(const OdDbDatabasePtr &drawing)
 /// How many entities of all blocks that are not external references have each line style.
 QMap<QString, int> entitiesByLineStyle(const OdDbDatabasePtr &drawing)
 {
-    QMap<QString, int> counts;
-    const OdDbBlockTablePtr blocks(drawing->getBlockTableId().openObject());
-    for (OdDbSymbolTableIteratorPtr walk = blocks->newIterator(); !walk->done(); walk->step()) {
-        const OdDbBlockTableRecordPtr block(walk->getRecord());
-        if (block->isFromExternalReference()) {
-            continue;
-        }
-        for (OdDbObjectIteratorPtr entities = block->newIterator(); !entities->done();
-             entities->step()) {
-            ++counts[QString::fromStdString(nameOf(entities->entity()->linetypeId())).toLower()];
-        }
-    }
-    return counts;
-}
-
-int sum(const QMap<QString, int> &counts)
-{
-    int total = 0;
-    for (const int count : counts) {
-        total += count;
-    }
-    return total;
+    return entitiesBy(drawing, [](const OdDbEntityPtr &entity) {
+        return QString::fromStdString(nameOf(entity->linetypeId()));
+    });
 }
 
 QStringList drawingsWithLineStyles()

@@ -4,10 +4,7 @@
 #include "CKvRealDrawingTest.h"
 #include "CKvTextStylePluginImpl.h"
 #include "OdDbArcAlignedText.h"
-#include "OdDbBlockTable.h"
-#include "OdDbBlockTableRecord.h"
 #include "OdDbMText.h"
-#include "OdDbObjectIterator.h"
 #include "OdDbTable.h"
 #include "OdDbText.h"
 #include "OdDbTextStyleTable.h"
@@ -59,22 +56,7 @@ QString textStyleOf(const OdDbEntityPtr &entity)
 /// How many texts of all blocks that are not external references have each text style.
 QMap<QString, int> textsByStyle(const OdDbDatabasePtr &drawing)
 {
-    QMap<QString, int> counts;
-    const OdDbBlockTablePtr blocks(drawing->getBlockTableId().openObject());
-    for (OdDbSymbolTableIteratorPtr walk = blocks->newIterator(); !walk->done(); walk->step()) {
-        const OdDbBlockTableRecordPtr block(walk->getRecord());
-        if (block->isFromExternalReference()) {
-            continue;
-        }
-        for (OdDbObjectIteratorPtr entities = block->newIterator(); !entities->done();
-             entities->step()) {
-            const QString style = textStyleOf(entities->entity());
-            if (!style.isEmpty()) {
-                ++counts[style.toLower()];
-            }
-        }
-    }
-    return counts;
+    return entitiesBy(drawing, textStyleOf);
 }
 
 QStringList drawingsWithTextStyles()

@@ -52,19 +52,29 @@ std::string namesText(OdDbObjectId tableId)
     return text;
 }
 
-std::string entityLayersText(const OdDbDatabase &drawing)
+std::string entitiesText(const OdDbDatabase &drawing,
+                         const std::function<std::string(const OdDbEntityPtr &)> &valueOf)
 {
     std::string text;
-    walk(drawing.getBlockTableId(), [&text](const OdDbSymbolTableRecordPtr &record) {
+    walk(drawing.getBlockTableId(), [&](const OdDbSymbolTableRecordPtr &record) {
         const OdDbBlockTableRecordPtr block(record);
         const OdDbObjectIteratorPtr entities = block->newIterator();
         for (; !entities->done(); entities->step()) {
             const OdDbEntityPtr entity = entities->entity();
-            text += toStdString(block->getName()) + ' ' + toStdString(entity->isA()->dxfName())
-                + ' ' + toStdString(entity->layer()) + '\n';
+            const std::string value = valueOf(entity);
+            if (!value.empty()) {
+                text += toStdString(block->getName()) + ' ' + toStdString(entity->isA()->dxfName())
+                    + ' ' + value + '\n';
+            }
         }
     });
     return text;
+}
+
+std::string entityLayersText(const OdDbDatabase &drawing)
+{
+    return entitiesText(drawing,
+                        [](const OdDbEntityPtr &entity) { return toStdString(entity->layer()); });
 }
 
 std::string nameOf(OdDbObjectId id)

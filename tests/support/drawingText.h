@@ -2,7 +2,9 @@
 #pragma once
 
 #include "OdDbDatabase.h"
+#include "OdDbEntity.h"
 
+#include <functional>
 #include <string>
 
 /// What a drawing holds, one record a line in the order of the file, for whole expectations.
@@ -12,6 +14,9 @@
 std::string layersText(const OdDbDatabase &drawing);
 /// The names in a table: tableText(drawing, drawing.getLinetypeTableId()).
 std::string namesText(OdDbObjectId tableId);
+/// Block, type and value of every entity that has a value: "*Model_Space LINE DASHED".
+std::string entitiesText(const OdDbDatabase &drawing,
+                         const std::function<std::string(const OdDbEntityPtr &)> &valueOf);
 /// Block, type and layer of every entity: "*Model_Space LINE WALLS".
 std::string entityLayersText(const OdDbDatabase &drawing);
 /// Name of an object, open or not; empty for null.

@@ -36,24 +36,6 @@ std::string usersText(const OdDbDatabasePtr &drawing)
 
 class DimStyleRepair : public CKvDimStyleTest
 {
-protected:
-    /// Lines that a save would change: "- old" and "+ new", for files of the same number of lines.
-    std::string changedLines() const
-    {
-        const QList<QByteArray> before = m_drawing.toBytes().split('\n');
-        const QList<QByteArray> after = CKvDrawingFile::toBytes(*m_database).split('\n');
-        if (before.size() != after.size()) {
-            return "another number of lines\n";
-        }
-        std::string text;
-        for (int i = 0; i < before.size(); ++i) {
-            if (before.at(i) != after.at(i)) {
-                text +=
-                    "- " + before.at(i).toStdString() + "\n+ " + after.at(i).toStdString() + '\n';
-            }
-        }
-        return text;
-    }
 };
 
 } // namespace

@@ -1,15 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "CKvLayerTest.h"
-#include "CKvPlainChoice.h"
+#include "CKvLayerPluginImpl.h"
+#include "CKvSampledCandidates.h"
 #include "CKvStdsLayerRecord.h"
 #include "lineweightNames.h"
 
-#include <random>
-
 namespace
 {
-
-using CKvLayerChoice = CKvPlainChoice<CKvLayerPluginImpl, CKvStdsLayerRecord>;
 
 CKvString text(const CKvStdsErrorPtr &error, const char *property)
 {
@@ -61,31 +57,13 @@ void addLayers(CKvDrawingBuilder &drawing, int count, std::mt19937 &random)
     }
 }
 
-class LayerSampledCandidates : public CKvLayerTest, public testing::WithParamInterface<unsigned>
-{
-};
+using LayerSampledCandidates = CKvSampledCandidates<CKvLayerPluginImpl, CKvStdsLayerRecord>;
 
 } // namespace
 
 TEST_P(LayerSampledCandidates, AreThoseOfAPlainWalkOverAllRecords)
 {
-    std::mt19937 random(GetParam());
-    CKvDrawingBuilder firm;
-    addLayers(m_drawing, 25, random);
-    addLayers(m_office, 12, random);
-    addLayers(firm, 12, random);
-    m_services.setDrawing("/office.dxf", m_office);
-    m_services.setDrawing("/firm.dxf", firm);
-    CKvOpenPlugin<CKvLayerPluginImpl> plugin;
-
-    const auto violations = audit(
-        plugin, m_drawing.open(), { QStringLiteral("/office.dxf"), QStringLiteral("/firm.dxf") });
-
-    ASSERT_FALSE(violations.empty());
-    const CKvLayerChoice plain(plugin, &isOfferedForName, &isOfferedForProperties);
-    for (const CKvStdsViolation &violation : violations) {
-        EXPECT_EQ(violationsText({ violation }), plain.line(violation.error));
-    }
+    expectPlainChoice(&addLayers, &isOfferedForName, &isOfferedForProperties);
 }
 
 INSTANTIATE_TEST_SUITE_P(Drawings, LayerSampledCandidates, testing::Range(1U, 61U));

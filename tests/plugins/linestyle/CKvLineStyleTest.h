@@ -3,10 +3,7 @@
 
 #include "CKvLineStylePluginImpl.h"
 #include "CKvPluginTest.h"
-#include "OdDbBlockTableRecord.h"
-#include "OdDbEntity.h"
 #include "OdDbLinetypeTableRecord.h"
-#include "OdDbObjectIterator.h"
 #include "OdDbSymbolTable.h"
 
 /// A drawing, the standards file "/office.dxf", and the line style plug-in.
@@ -37,19 +34,8 @@ protected:
     /// Block, type and line style of every entity: "*Model_Space LINE DASHED".
     std::string entityLineStyles() const
     {
-        const OdDbSymbolTablePtr blocks(m_database->getBlockTableId().openObject());
-        std::string text;
-        for (OdDbSymbolTableIteratorPtr walk = blocks->newIterator(); !walk->done(); walk->step()) {
-            const OdDbBlockTableRecordPtr block(walk->getRecord());
-            for (OdDbObjectIteratorPtr entities = block->newIterator(); !entities->done();
-                 entities->step()) {
-                const OdDbEntityPtr entity = entities->entity();
-                text += block->getName().toQString().toStdString() + ' '
-                    + entity->isA()->dxfName().toQString().toStdString() + ' '
-                    + nameOf(entity->linetypeId()) + '\n';
-            }
-        }
-        return text;
+        return entitiesText(
+            *m_database, [](const OdDbEntityPtr &entity) { return nameOf(entity->linetypeId()); });
     }
     std::string layers() const { return layersText(*m_database); }
     std::string currentLineStyle() const { return nameOf(m_database->getCELTYPE()); }

@@ -1,16 +1,13 @@
 // SPDX-License-Identifier: MIT
-#include "CKvLineStyleTest.h"
-#include "CKvPlainChoice.h"
+#include "CKvLineStylePluginImpl.h"
+#include "CKvSampledCandidates.h"
 #include "CKvStdsLineStyleRecord.h"
 
 #include <array>
 #include <cmath>
-#include <random>
 
 namespace
 {
-
-using CKvLineStyleChoice = CKvPlainChoice<CKvLineStylePluginImpl, CKvStdsLineStyleRecord>;
 
 CKvString nameOfViolation(const CKvStdsErrorPtr &error)
 {
@@ -43,32 +40,14 @@ void addLineStyles(CKvDrawingBuilder &drawing, int count, std::mt19937 &random)
     }
 }
 
-class LineStyleSampledCandidates : public CKvLineStyleTest,
-                                   public testing::WithParamInterface<unsigned>
-{
-};
+using LineStyleSampledCandidates =
+    CKvSampledCandidates<CKvLineStylePluginImpl, CKvStdsLineStyleRecord>;
 
 } // namespace
 
 TEST_P(LineStyleSampledCandidates, AreThoseOfAPlainWalkOverAllRecords)
 {
-    std::mt19937 random(GetParam());
-    CKvDrawingBuilder firm;
-    addLineStyles(m_drawing, 25, random);
-    addLineStyles(m_office, 12, random);
-    addLineStyles(firm, 12, random);
-    m_services.setDrawing("/office.dxf", m_office);
-    m_services.setDrawing("/firm.dxf", firm);
-    CKvOpenPlugin<CKvLineStylePluginImpl> plugin;
-
-    const auto violations = audit(
-        plugin, m_drawing.open(), { QStringLiteral("/office.dxf"), QStringLiteral("/firm.dxf") });
-
-    ASSERT_FALSE(violations.empty());
-    const CKvLineStyleChoice plain(plugin, &isOfferedForName, &isOfferedForProperties);
-    for (const CKvStdsViolation &violation : violations) {
-        EXPECT_EQ(violationsText({ violation }), plain.line(violation.error));
-    }
+    expectPlainChoice(&addLineStyles, &isOfferedForName, &isOfferedForProperties);
 }
 
 INSTANTIATE_TEST_SUITE_P(Drawings, LineStyleSampledCandidates, testing::Range(1U, 61U));

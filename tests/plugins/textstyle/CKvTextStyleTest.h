@@ -4,9 +4,7 @@
 #include "CKvPluginTest.h"
 #include "CKvTextStylePluginImpl.h"
 #include "OdDbArcAlignedText.h"
-#include "OdDbBlockTableRecord.h"
 #include "OdDbMText.h"
-#include "OdDbObjectIterator.h"
 #include "OdDbSymbolTable.h"
 #include "OdDbTable.h"
 #include "OdDbText.h"
@@ -43,24 +41,7 @@ protected:
     }
     /// Block, type and text style of every text: "*Model_Space TEXT NOTES"; for a table the styles
     /// of title, header and data rows.
-    std::string users() const
-    {
-        const OdDbSymbolTablePtr blocks(m_database->getBlockTableId().openObject());
-        std::string text;
-        for (OdDbSymbolTableIteratorPtr walk = blocks->newIterator(); !walk->done(); walk->step()) {
-            const OdDbBlockTableRecordPtr block(walk->getRecord());
-            for (OdDbObjectIteratorPtr entities = block->newIterator(); !entities->done();
-                 entities->step()) {
-                const OdDbEntityPtr entity = entities->entity();
-                const std::string style = styleOf(entity);
-                if (!style.empty()) {
-                    text += block->getName().toQString().toStdString() + ' '
-                        + entity->isA()->dxfName().toQString().toStdString() + ' ' + style + '\n';
-                }
-            }
-        }
-        return text;
-    }
+    std::string users() const { return entitiesText(*m_database, &styleOf); }
 
 private:
     static std::string styleOf(const OdDbEntityPtr &entity)

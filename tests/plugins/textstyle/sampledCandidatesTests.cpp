@@ -1,15 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "CKvPlainChoice.h"
-#include "CKvTextStyleTest.h"
+#include "CKvSampledCandidates.h"
+#include "CKvTextStylePluginImpl.h"
 #include "textStyleRecords.h"
 
 #include <array>
-#include <random>
 
 namespace
 {
-
-using CKvTextStyleChoice = CKvPlainChoice<CKvTextStylePluginImpl, CKvStdsTextStyleRecord>;
 
 CKvString nameOfViolation(const CKvStdsErrorPtr &error)
 {
@@ -44,32 +41,14 @@ void addTextStyles(CKvDrawingBuilder &drawing, int count, std::mt19937 &random)
     }
 }
 
-class TextStyleSampledCandidates : public CKvTextStyleTest,
-                                   public testing::WithParamInterface<unsigned>
-{
-};
+using TextStyleSampledCandidates =
+    CKvSampledCandidates<CKvTextStylePluginImpl, CKvStdsTextStyleRecord>;
 
 } // namespace
 
 TEST_P(TextStyleSampledCandidates, AreThoseOfAPlainWalkOverAllRecords)
 {
-    std::mt19937 random(GetParam());
-    CKvDrawingBuilder firm;
-    addTextStyles(m_drawing, 25, random);
-    addTextStyles(m_office, 12, random);
-    addTextStyles(firm, 12, random);
-    m_services.setDrawing("/office.dxf", m_office);
-    m_services.setDrawing("/firm.dxf", firm);
-    CKvOpenPlugin<CKvTextStylePluginImpl> plugin;
-
-    const auto violations = audit(
-        plugin, m_drawing.open(), { QStringLiteral("/office.dxf"), QStringLiteral("/firm.dxf") });
-
-    ASSERT_FALSE(violations.empty());
-    const CKvTextStyleChoice plain(plugin, &isOfferedForName, &isOfferedForProperties);
-    for (const CKvStdsViolation &violation : violations) {
-        EXPECT_EQ(violationsText({ violation }), plain.line(violation.error));
-    }
+    expectPlainChoice(&addTextStyles, &isOfferedForName, &isOfferedForProperties);
 }
 
 INSTANTIATE_TEST_SUITE_P(Drawings, TextStyleSampledCandidates, testing::Range(1U, 61U));
