@@ -167,12 +167,13 @@ CKvDimStylePluginImpl::CKvStandardStyle CKvDimStylePluginImpl::standardStyle(con
     return found;
 }
 
-bool CKvDimStylePluginImpl::agrees(const CKvStdsRecord &current, const CKvStdsRecord &standard)
+bool CKvDimStylePluginImpl::agrees(const OdDbSymbolTableRecordPtr &object,
+                                   const CKvStdsRecord &standard)
 {
-    const OdDbDimStyleTableRecordPtr style(openRecord(asDimStyle(current).objectId));
     const CKvStandardStyle wanted = standardStyle(standard.standardsFile, standard.name);
     // A standard that can't be opened any more gives no rows, so the style is passed over.
-    return compareDimStyles(style, wanted.style, /*includeAll*/ false).empty();
+    return compareDimStyles(OdDbDimStyleTableRecordPtr(object), wanted.style, /*includeAll*/ false)
+        .empty();
 }
 
 CKvStdsPropertyList CKvDimStylePluginImpl::properties(const CKvStdsRecord &record) const

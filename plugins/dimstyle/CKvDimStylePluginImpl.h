@@ -46,7 +46,7 @@ protected:
     std::unique_ptr<CKvStdsRecord> readViolation(const CKvStdsErrorPtr &error) const override;
     void addIdentity(const CKvStdsFixPtr &fix, const CKvStdsRecord &record) const override;
 
-    bool agrees(const CKvStdsRecord &current, const CKvStdsRecord &standard) override;
+    bool agrees(const OdDbSymbolTableRecordPtr &object, const CKvStdsRecord &standard) override;
 
     CKvStdsPropertyList properties(const CKvStdsRecord &record) const override;
     CKvStdsPropertyList recommendedProperties(const CKvStdsRecord &record) override;

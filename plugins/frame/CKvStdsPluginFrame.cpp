@@ -179,21 +179,11 @@ void CKvStdsPluginFrame::addRecord(std::unique_ptr<CKvStdsRecord> record, const 
     record->fix->setStandardsFile(path);
     record->fix->setObjectName(record->name);
     addIdentity(record->fix, *record);
-    fillFix(record->fix, properties(*record));
+    addProperties(record->fix, properties(*record));
 
     const QString key = twinKey(*record);
     m_records.append(record.get());
     m_index.add(record.release(), key);
-}
-
-void CKvStdsPluginFrame::fillFix(const CKvStdsFixPtr &fix, const CKvStdsPropertyList &properties)
-{
-    if (fix->propertyCount() != 0) {
-        return;
-    }
-    for (const CKvStdsProperty &property : properties) {
-        fix->addProperty(property.name, property.value);
-    }
 }
 
 OdDbDatabasePtr CKvStdsPluginFrame::readDatabase(const CKvString &path)

@@ -114,7 +114,7 @@ protected:
     // Comparing.
 
     /// True when an object of the drawing agrees with the standard of its name.
-    virtual bool agrees(const CKvStdsRecord &current, const CKvStdsRecord &standard) = 0;
+    virtual bool agrees(const OdDbSymbolTableRecordPtr &object, const CKvStdsRecord &standard) = 0;
 
     // Filling properties.
 
@@ -181,9 +181,7 @@ private:
     void forgetCandidates();
 
     CKvStdsErrorPtr judge(OdDbObjectId id);
-    CKvStdsErrorPtr makeViolation(const CKvString &message,
-                                  const OdDbSymbolTableRecordPtr &object,
-                                  const CKvStdsRecord &current);
+    CKvStdsErrorPtr makeViolation(const CKvString &message, const OdDbSymbolTableRecordPtr &object);
 
     CKvStdsCandidateList candidatesFor(const CKvStdsErrorPtr &error, CKvStdsViolationKind kind);
     CKvStdsCandidateList candidatesForName(const CKvStdsRecord &violation);
@@ -193,7 +191,6 @@ private:
     static CKvStdsCandidateList withoutRecords(const CKvStdsCandidateList &list,
                                                const std::vector<CKvStdsRecord *> &leftOut);
     int candidateOfName(const CKvString &name) const;
-    static void fillFix(const CKvStdsFixPtr &fix, const CKvStdsPropertyList &properties);
 
     OdArray<CKvStdsRecord *> m_records;
     OdArray<CKvStdsRecord *> m_candidates;

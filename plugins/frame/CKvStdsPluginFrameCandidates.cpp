@@ -86,7 +86,7 @@ CKvStdsFixPtr CKvStdsPluginFrame::recommendedFix(CKvStdsErrorPtr error)
     fix->setName(record.name);
     fix->setStandardsFile(record.standardsFile);
     fix->setObjectName(record.name);
-    fillFix(fix, recommendedProperties(record));
+    addProperties(fix, recommendedProperties(record));
     return fix;
 }
 

@@ -75,32 +75,26 @@ CKvStdsErrorPtr CKvStdsPluginFrame::judge(OdDbObjectId id)
     if (!standard && isExemptName(name)) {
         return CKvStdsErrorPtr();
     }
-    const std::unique_ptr<CKvStdsRecord> current = readRecord(object);
     if (!standard) {
-        return makeViolation(nameMessage(), object, *current);
+        return makeViolation(nameMessage(), object);
     }
-    if (agrees(*current, *standard)) {
+    if (agrees(object, *standard)) {
         return CKvStdsErrorPtr();
     }
-    return makeViolation(propertyMessage(), object, *current);
+    return makeViolation(propertyMessage(), object);
 }
 
 CKvStdsErrorPtr CKvStdsPluginFrame::makeViolation(const CKvString &message,
-                                                  const OdDbSymbolTableRecordPtr &object,
-                                                  const CKvStdsRecord &current)
+                                                  const OdDbSymbolTableRecordPtr &object)
 {
+    const std::unique_ptr<CKvStdsRecord> current = readRecord(object);
     CKvStdsErrorPtr error = CKvStdsError::createObject();
     error->setMessage(message);
     error->setObjectId(object->objectId());
     error->setObjectType(objectTypeLabel());
-    error->setObjectName(current.name);
+    error->setObjectName(current->name);
     error->setPlugin(CKvStdsPluginsPtr(this));
-    if (error->propertyCount() != 0) {
-        return error;
-    }
-    for (const CKvStdsProperty &property : properties(current)) {
-        error->addProperty(property.name, property.value);
-    }
+    addProperties(error, properties(*current));
     return error;
 }
 

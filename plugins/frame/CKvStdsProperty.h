@@ -35,3 +35,15 @@ struct CKvStdsProperty {
 
 /// In the order in which the plug-in adds them.
 using CKvStdsPropertyList = std::vector<CKvStdsProperty>;
+
+/// Fills a violation or a fix; one that holds properties already stays as it is.
+template <class Holder>
+void addProperties(const OdSmartPtr<Holder> &holder, const CKvStdsPropertyList &properties)
+{
+    if (holder->propertyCount() != 0) {
+        return;
+    }
+    for (const CKvStdsProperty &property : properties) {
+        holder->addProperty(property.name, property.value);
+    }
+}

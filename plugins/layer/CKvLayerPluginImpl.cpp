@@ -140,9 +140,11 @@ std::unique_ptr<CKvStdsRecord> CKvLayerPluginImpl::readViolation(const CKvStdsEr
     return values;
 }
 
-bool CKvLayerPluginImpl::agrees(const CKvStdsRecord &current, const CKvStdsRecord &standard)
+bool CKvLayerPluginImpl::agrees(const OdDbSymbolTableRecordPtr &object,
+                                const CKvStdsRecord &standard)
 {
-    const CKvStdsLayerRecord &layer = asLayer(current);
+    const std::unique_ptr<CKvStdsRecord> current = readRecord(object);
+    const CKvStdsLayerRecord &layer = asLayer(*current);
     const CKvStdsLayerRecord &wanted = asLayer(standard);
     // True colours of one index pass; the choice of candidates and the preview are stricter.
     return layer.color.colorIndex() == wanted.color.colorIndex()

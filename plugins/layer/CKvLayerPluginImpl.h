@@ -35,7 +35,7 @@ protected:
     readRecord(const OdDbSymbolTableRecordPtr &record) const override;
     std::unique_ptr<CKvStdsRecord> readViolation(const CKvStdsErrorPtr &error) const override;
 
-    bool agrees(const CKvStdsRecord &current, const CKvStdsRecord &standard) override;
+    bool agrees(const OdDbSymbolTableRecordPtr &object, const CKvStdsRecord &standard) override;
 
     CKvStdsPropertyList properties(const CKvStdsRecord &record) const override;
     CKvStdsPropertyList recommendedProperties(const CKvStdsRecord &record) override;

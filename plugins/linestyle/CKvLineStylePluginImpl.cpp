@@ -128,9 +128,11 @@ CKvLineStylePluginImpl::readViolation(const CKvStdsErrorPtr &error) const
     return values;
 }
 
-bool CKvLineStylePluginImpl::agrees(const CKvStdsRecord &current, const CKvStdsRecord &standard)
+bool CKvLineStylePluginImpl::agrees(const OdDbSymbolTableRecordPtr &object,
+                                    const CKvStdsRecord &standard)
 {
-    const CKvStdsLineStyleRecord &lineStyle = asLineStyle(current);
+    const std::unique_ptr<CKvStdsRecord> current = readRecord(object);
+    const CKvStdsLineStyleRecord &lineStyle = asLineStyle(*current);
     const CKvStdsLineStyleRecord &wanted = asLineStyle(standard);
     return lineStyle.dashCount == wanted.dashCount
         && sameReal(lineStyle.patternLength, wanted.patternLength);

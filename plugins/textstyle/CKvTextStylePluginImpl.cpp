@@ -121,9 +121,10 @@ CKvTextStylePluginImpl::readViolation(const CKvStdsErrorPtr &error) const
     return readTextStyleRecord(/*fromFix*/ false, CKvStdsFixPtr(), error);
 }
 
-bool CKvTextStylePluginImpl::agrees(const CKvStdsRecord &current, const CKvStdsRecord &standard)
+bool CKvTextStylePluginImpl::agrees(const OdDbSymbolTableRecordPtr &object,
+                                    const CKvStdsRecord &standard)
 {
-    return sameTextStyleRecord(asTextStyle(current), asTextStyle(standard));
+    return matchesTextStyleRecord(OdDbTextStyleTableRecordPtr(object), asTextStyle(standard));
 }
 
 CKvStdsPropertyList CKvTextStylePluginImpl::properties(const CKvStdsRecord &record) const

@@ -91,6 +91,18 @@ CKvStdsPropertyList textStyleProperties(const CKvStdsTextStyleRecord &record)
     };
 }
 
+void writeTextStyleProperties(bool toFix,
+                              const CKvStdsFixPtr &fix,
+                              const CKvStdsErrorPtr &error,
+                              const CKvStdsTextStyleRecord &record)
+{
+    if (toFix) {
+        addProperties(fix, textStyleProperties(record));
+    } else {
+        addProperties(error, textStyleProperties(record));
+    }
+}
+
 bool sameTextStyleRecord(const CKvStdsTextStyleRecord &first, const CKvStdsTextStyleRecord &second)
 {
     return first.name.compareNoCase(second.name) == 0
@@ -103,6 +115,12 @@ bool sameTextStyleRecord(const CKvStdsTextStyleRecord &first, const CKvStdsTextS
         && first.fontStyle.compareNoCase(second.fontStyle) == 0
         && first.annotative == second.annotative
         && first.matchOrientation == second.matchOrientation;
+}
+
+bool matchesTextStyleRecord(const OdDbTextStyleTableRecordPtr &style,
+                            const CKvStdsTextStyleRecord &record)
+{
+    return sameTextStyleRecord(*readTextStyle(style), record);
 }
 
 bool sameResBuf(const OdResBufPtr &first, const OdResBufPtr &second)

@@ -98,9 +98,9 @@ void CKvColorPlugin::addIdentity(const CKvStdsFixPtr &fix, const CKvStdsRecord &
     }
 }
 
-bool CKvColorPlugin::agrees(const CKvStdsRecord &current, const CKvStdsRecord &standard)
+bool CKvColorPlugin::agrees(const OdDbSymbolTableRecordPtr &object, const CKvStdsRecord &standard)
 {
-    return haveNearColors(current, standard);
+    return haveNearColors(*readRecord(object), standard);
 }
 
 CKvStdsPropertyList CKvColorPlugin::properties(const CKvStdsRecord &record) const

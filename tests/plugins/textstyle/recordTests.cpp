@@ -45,15 +45,40 @@ TEST_F(TextStyleRecords, TheTwelvePropertiesComeInTheirOrder)
 
 TEST_F(TextStyleRecords, AFixAndAViolationAreReadBack)
 {
-    CKvStdsFixPtr fix = CKvStdsFix::createObject();
-    CKvStdsErrorPtr error = CKvStdsError::createObject();
-    for (const CKvStdsProperty &property : textStyleProperties(sample())) {
-        fix->addProperty(property.name, property.value);
-        error->addProperty(property.name, property.value);
-    }
+    const CKvStdsFixPtr fix = CKvStdsFix::createObject();
+    const CKvStdsErrorPtr error = CKvStdsError::createObject();
 
+    writeTextStyleProperties(true, fix, CKvStdsErrorPtr(), sample());
+    writeTextStyleProperties(false, CKvStdsFixPtr(), error, sample());
+
+    EXPECT_EQ(fix->propertyCount(), 12);
+    EXPECT_EQ(error->propertyCount(), 12);
     EXPECT_TRUE(sameTextStyleRecord(*readTextStyleRecord(true, fix, CKvStdsErrorPtr()), sample()));
     EXPECT_TRUE(sameTextStyleRecord(*readTextStyleRecord(false, CKvStdsFixPtr(), error), sample()));
+}
+
+TEST_F(TextStyleRecords, WhatHoldsValuesKeepsThem)
+{
+    const CKvStdsFixPtr fix = CKvStdsFix::createObject();
+    writeTextStyleProperties(true, fix, CKvStdsErrorPtr(), sample());
+    CKvStdsTextStyleRecord other = sample();
+    other.textSize = 5;
+
+    writeTextStyleProperties(true, fix, CKvStdsErrorPtr(), other);
+
+    EXPECT_TRUE(sameTextStyleRecord(*readTextStyleRecord(true, fix, CKvStdsErrorPtr()), sample()));
+}
+
+TEST_F(TextStyleRecords, AStyleOfADrawingMatchesTheRecordOfItsValues)
+{
+    m_drawing.textStyle("NOTES").height(2.5);
+    m_database = m_drawing.open();
+    const OdDbTextStyleTableRecordPtr style(styleId("NOTES").openObject(OdDb::kForRead));
+    const std::unique_ptr<CKvStdsTextStyleRecord> record = readTextStyle(style);
+
+    EXPECT_TRUE(matchesTextStyleRecord(style, *record));
+    record->textSize = 3;
+    EXPECT_FALSE(matchesTextStyleRecord(style, *record));
 }
 
 TEST_F(TextStyleRecords, EachValueCounts)
