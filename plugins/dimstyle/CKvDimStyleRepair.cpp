@@ -42,8 +42,12 @@ void CKvDimStyleRepair::run()
     if (m_oldName.equalNoCase(CKvString(standard->getName()))) {
         return;
     }
+    // Null after a rename.
+    const OdDbObjectId oldId = styles->getAt(m_oldName.toOdString());
     OdDbObjectIdArray ids;
-    ids.append(styles->getAt(m_oldName.toOdString()));
+    if (!oldId.isNull()) {
+        ids.append(oldId);
+    }
     purgeRecords(*m_drawing, ids);
 }
 
