@@ -83,6 +83,16 @@ TEST_F(LayerLineStyleRepair, AMetricDrawingLoadsFromTheFileInMillimetres)
     EXPECT_EQ(reportAgain(), "");
 }
 
+TEST_F(LayerLineStyleRepair, EveryMeasurementButZeroIsMetric)
+{
+    m_drawing.measurement(2);
+    report();
+
+    repair("WALLS", "WALLS");
+
+    EXPECT_EQ(m_services.calls(), std::vector<std::string>({ "findFile mm.lin 0 null 0" }));
+}
+
 TEST_F(LayerLineStyleRepair, ADrawingThatDoesNotSayIsOneInInches)
 {
     report();

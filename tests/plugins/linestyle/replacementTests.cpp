@@ -163,6 +163,19 @@ TEST_F(LineStyleReplacement, ALineStyleThatIsGoneHasNoUsers)
     EXPECT_EQ(entityLineStyles(), "*Model_Space LINE STRICHE\n");
 }
 
+TEST_F(LineStyleReplacement, ALineStyleThatIsGoneComesBackByItsOwnNameAndIsNotPurged)
+{
+    m_drawing.lineStyle("DASHED").dashes({ 1, -1 });
+    m_office.lineStyle("Dashed").dashes({ 0.5, -0.25 });
+    report();
+    lineStyleId("DASHED").safeOpenObject(OdDb::kForWrite)->erase();
+
+    repair("DASHED", "Dashed");
+
+    EXPECT_EQ(lineStyles(),
+              "ByBlock 0 0.0000\nByLayer 0 0.0000\nContinuous 0 0.0000\nDashed 2 0.7500\n");
+}
+
 TEST_F(LineStyleReplacement, TheOldNameIsThatOfTheAudit)
 {
     m_drawing.lineStyle("STRICHE").dashes({ 1, -1 });
