@@ -6,6 +6,23 @@ namespace
 
 class FrameLifecycle : public CKvFrameTest
 {
+protected:
+    void restrictTo(const char *layer)
+    {
+        OdDbObjectIdArray ids;
+        ids.append(layerId(layer));
+        m_plugin.setObjectsToCheck(ids, /*scanAll*/ false);
+    }
+    /// Names of the layers that a scan of the office's standards stands on, one after the other.
+    std::string scanned()
+    {
+        m_plugin.openStandards(m_database, CKvString(), {}, { CKvString("/office.dxf") });
+        std::string names;
+        for (m_plugin.beginScan(CKvStdsErrorPtr()); !m_plugin.isDone(); m_plugin.nextError()) {
+            names += m_plugin.currentError()->objectName().toQString().toStdString() + ' ';
+        }
+        return names;
+    }
 };
 
 } // namespace
@@ -86,6 +103,33 @@ TEST_F(FrameLifecycle, AClearLetsTheDrawingAndTheRecordsGo)
     EXPECT_TRUE(m_plugin.drawing().isNull());
     EXPECT_TRUE(m_plugin.records().isEmpty());
     EXPECT_TRUE(m_plugin.isDone());
+}
+
+TEST_F(FrameLifecycle, AClearForgetsTheObjectsOfARestrictedRun)
+{
+    m_drawing.layer("WALLS");
+    m_drawing.layer("DOORS");
+    m_office.layer("ATTIC");
+    openStandards();
+    restrictTo("DOORS");
+
+    m_plugin.clear();
+    restrictTo("WALLS");
+
+    EXPECT_EQ(scanned(), "WALLS ");
+}
+
+TEST_F(FrameLifecycle, AClearLeavesARestrictedRunRestricted)
+{
+    m_drawing.layer("WALLS");
+    m_office.layer("ATTIC");
+    openStandards();
+    restrictTo("WALLS");
+
+    m_plugin.clear();
+
+    // The next choice of objects decides anew; without one there is nothing to visit.
+    EXPECT_EQ(scanned(), "");
 }
 
 TEST_F(FrameLifecycle, WhatASessionHoldsOutlivesTheClear)

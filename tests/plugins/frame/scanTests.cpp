@@ -372,3 +372,21 @@ TEST_F(FrameScan, ObjectsOfARestrictedRunStandInFrontOfTheTableToo)
 
     EXPECT_EQ(scanned(), "DOORS\nWALLS\nDOORS\n");
 }
+
+TEST_F(FrameScan, ARunOverTheTableForgetsTheObjectsOfARestrictedOne)
+{
+    m_drawing.layer("WALLS");
+    m_drawing.layer("DOORS");
+    m_office.layer("CELLAR");
+    openStandards();
+    OdDbObjectIdArray doors;
+    doors.append(layerId("DOORS"));
+    OdDbObjectIdArray walls;
+    walls.append(layerId("WALLS"));
+
+    m_plugin.setObjectsToCheck(doors, /*scanAll*/ false);
+    m_plugin.setObjectsToCheck({}, /*scanAll*/ true);
+    m_plugin.setObjectsToCheck(walls, /*scanAll*/ false);
+
+    EXPECT_EQ(scanned(), "WALLS\n");
+}
