@@ -85,7 +85,7 @@ void CKvVerifyStandards::showEvent(QShowEvent *event)
 {
     CKvDialog::showEvent(event);
     if (!event->spontaneous()) {
-        QTimer::singleShot(0, this, &CKvVerifyStandards::OnTimer);
+        QTimer::singleShot(0, this, SLOT(OnTimer()));
     }
 }
 

@@ -141,7 +141,7 @@ void CKvCommandPanel::enterCommand(const QString &line)
     // The waiting command has to unwind first; then the line is the next thing to happen.
     m_waiting.push_back(line);
     cancel();
-    QTimer::singleShot(0, this, &CKvCommandPanel::runWaiting);
+    QTimer::singleShot(0, this, SLOT(runWaiting()));
 }
 
 void CKvCommandPanel::runWaiting()

@@ -42,9 +42,11 @@ signals:
     /// A command began, or ended, to wait for an answer.
     void askingChanged(bool isAsking);
 
+private slots:
+    void runWaiting();
+
 private:
     void takeLine(const QString &line);
-    void runWaiting();
     void showPrompt(const QString &prompt);
     void updateCompletion();
 

@@ -303,14 +303,17 @@ bool CKvMainWindow::mayOverwrite(CKvHostDocument &document, const QString &path)
 void CKvMainWindow::closeLater(bool discards)
 {
     m_discardsChanges = discards;
+    QTimer::singleShot(0, this, SLOT(closeWhenIdle()));
+}
+
+void CKvMainWindow::closeWhenIdle()
+{
     // A script goes on for as long as it has lines; the window closes behind it.
-    QTimer::singleShot(0, this, [this] {
-        if (m_desktop.commandLine().isRunning()) {
-            closeLater(m_discardsChanges);
-        } else {
-            close();
-        }
-    });
+    if (m_desktop.commandLine().isRunning()) {
+        closeLater(m_discardsChanges);
+    } else {
+        close();
+    }
 }
 
 void CKvMainWindow::closeEvent(QCloseEvent *event)

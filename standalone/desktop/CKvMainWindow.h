@@ -64,6 +64,9 @@ protected:
     void dragEnterEvent(QDragEnterEvent *event) override;
     void dropEvent(QDropEvent *event) override;
 
+private slots:
+    void closeWhenIdle();
+
 private:
     void makeTabs();
     void makeRecordsPanel();

@@ -20,7 +20,7 @@ CKvFileImagePtr CKvImageRegistry::find(const QString &path,
         return nullptr;
     }
     for (const std::weak_ptr<const CKvFileImage> &entered : known->second) {
-        const CKvFileImagePtr image = entered.lock();
+        CKvFileImagePtr image = entered.lock();
         if (image && image->identity() == identity
             && (holding == CKvFileImage::Holding::Mapped || !image->isMapped())) {
             return image;

@@ -243,7 +243,7 @@ CKvCommandLine::Outcome CKvCommandLine::evaluate(const QString &expression)
 QString CKvCommandLine::takeAnswer(CKvInput::Kind kind)
 {
     QString &line = m_lines.front();
-    const QString answer = kind == CKvInput::Kind::Word ? takeWord(line) : unquoted(line.trimmed());
+    QString answer = kind == CKvInput::Kind::Word ? takeWord(line) : unquoted(line.trimmed());
     if (kind == CKvInput::Kind::Text || line.trimmed().isEmpty()) {
         m_lines.pop_front();
     }

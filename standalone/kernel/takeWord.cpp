@@ -10,7 +10,7 @@ QString takeWord(QString &line)
     const bool isQuoted = begin < line.length() && line[begin] == QLatin1Char('"');
     int end = isQuoted ? line.indexOf(QLatin1Char('"'), begin + 1) : begin;
     if (isQuoted && end >= 0) {
-        const QString word = line.mid(begin + 1, end - begin - 1);
+        QString word = line.mid(begin + 1, end - begin - 1);
         line.remove(0, end + 1);
         return word;
     }
@@ -18,7 +18,7 @@ QString takeWord(QString &line)
     while (end < line.length() && !line[end].isSpace()) {
         ++end;
     }
-    const QString word = line.mid(begin, end - begin);
+    QString word = line.mid(begin, end - begin);
     line.remove(0, end);
     return word;
 }

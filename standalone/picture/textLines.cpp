@@ -45,7 +45,7 @@ private:
     {
         int end = m_text.indexOf(QLatin1Char(';'), m_at);
         end = end < 0 ? m_text.length() : end;
-        const QString argument = m_text.mid(m_at, end - m_at);
+        QString argument = m_text.mid(m_at, end - m_at);
         m_at = end + 1;
         return argument;
     }

@@ -67,7 +67,7 @@ protected:
         for (int i = 0; i < layers; ++i) {
             drawing.layer(QString(QLatin1Char('L') + QString::number(i)));
         }
-        const QString path = m_folder.filePath(text(name));
+        QString path = m_folder.filePath(text(name));
         drawing.saveTo(path);
         return path;
     }

@@ -115,7 +115,7 @@ CKvStdsErrorPtr CKvRecordingPlugin::currentError() const
     if (m_findings[m_at].object.isNull()) {
         return CKvStdsErrorPtr();
     }
-    const CKvStdsErrorPtr error = CKvStdsError::createObject();
+    CKvStdsErrorPtr error = CKvStdsError::createObject();
     error->setObjectId(m_findings[m_at].object);
     error->setObjectName(CKvString(QString::fromStdString(m_name + std::to_string(m_at))));
     return error;
