@@ -21,15 +21,6 @@ CKvDesktopTest::CKvDesktopTest()
 
 CKvDesktopTest::~CKvDesktopTest() = default;
 
-QStringList CKvDesktopTest::list(std::initializer_list<const char *> texts)
-{
-    QStringList all;
-    for (const char *one : texts) {
-        all << text(one);
-    }
-    return all;
-}
-
 QString CKvDesktopTest::write(const char *name, int layers) const
 {
     CKvDrawingBuilder drawing;

@@ -4,6 +4,7 @@
 #include "CKvDesktop.h"
 #include "CKvDrawingBuilder.h"
 #include "CKvModalScript.h"
+#include "list.h"
 
 #include <QTemporaryDir>
 
@@ -19,7 +20,6 @@ protected:
     ~CKvDesktopTest() override;
 
     static QString text(const char *utf8) { return QString::fromUtf8(utf8); }
-    static QStringList list(std::initializer_list<const char *> texts);
     QString path(const char *name) const { return m_folder.filePath(text(name)); }
     /// Writes a drawing with a line and that many layers, L0 and so on.
     QString write(const char *name, int layers = 1) const;

@@ -111,6 +111,7 @@ protected:
         const auto *table =
             m_dialog.findChild<QTableWidget *>(QStringLiteral("PreviewChangesTableWidget"));
         std::vector<std::string> rows;
+        rows.reserve(std::size_t(table->rowCount()));
         for (int row = 0; row < table->rowCount(); ++row) {
             rows.push_back(table->item(row, 0)->text().toStdString() + ": "
                            + table->item(row, 1)->text().toStdString() + " -> "

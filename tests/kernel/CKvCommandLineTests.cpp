@@ -7,6 +7,7 @@
 #include "CKvScriptedCommand.h"
 #include "CKvSession.h"
 #include "OdError.h"
+#include "list.h"
 
 #include <QEventLoop>
 #include <QTemporaryDir>
@@ -19,15 +20,6 @@ namespace
 QString text(const char *latin1)
 {
     return QString::fromLatin1(latin1);
-}
-
-QStringList list(std::initializer_list<const char *> texts)
-{
-    QStringList all;
-    for (const char *one : texts) {
-        all << text(one);
-    }
-    return all;
 }
 
 OdResBufPtr request(const char *name)

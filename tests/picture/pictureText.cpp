@@ -112,3 +112,8 @@ QStringList pictureText(const CKvPicture &picture, std::size_t block)
     }
     return lines;
 }
+
+QStringList shown(const CKvDrawingBuilder &drawing)
+{
+    return pictureText(pictureOf(drawing.open()));
+}

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "textLines.h"
 
+#include "list.h"
+
 #include <gtest/gtest.h>
 
 namespace
@@ -14,15 +16,6 @@ QString plain(const char *text)
 QStringList lines(const char *text)
 {
     return plainLines(QString::fromUtf8(text));
-}
-
-QStringList list(std::initializer_list<const char *> texts)
-{
-    QStringList all;
-    for (const char *text : texts) {
-        all << QString::fromUtf8(text);
-    }
-    return all;
 }
 
 } // namespace
