@@ -26,7 +26,8 @@ const CKvStdsDimStyleRecord &asDimStyle(const CKvStdsRecord &record)
 /// counts as a digit; that is intended.
 bool isSubStyle(const QString &name)
 {
-    return name.contains(QRegExp(QStringLiteral("\\$[0,2-4,6-7]{1,1}$")));
+    // Qt remembers patterns until the program ends, so this one must not lie in the module's file.
+    return name.contains(QRegExp(QString::fromLatin1("\\$[0,2-4,6-7]{1,1}$")));
 }
 
 bool takesPart(const OdDbSymbolTableRecordPtr &record)

@@ -14,6 +14,8 @@
 #include <QApplication>
 #include <QFileInfo>
 
+#include <exception>
+
 namespace
 {
 
@@ -117,8 +119,8 @@ void CKvDesktop::loadModule()
     try {
         m_session.modules().load(path);
         restoreCategories(m_session.settings());
-    } catch (const OdError &error) {
-        commandLine().print(QString::fromUtf8(error.what()));
+    } catch (const std::exception &failure) {
+        commandLine().print(QString::fromUtf8(failure.what()));
     }
 }
 

@@ -3,6 +3,7 @@
 
 #include "CKvForeignMemory.h"
 #include "OdError.h"
+#include "odrxAlloc.h"
 
 #include <QDir>
 #include <QFile>
@@ -10,7 +11,7 @@
 
 #include <algorithm>
 #include <exception>
-#include <optional>
+#include <typeinfo>
 
 #ifdef _WIN32
 #include <windows.h>
@@ -28,8 +29,7 @@ void *openFile(const QString &path, QString &reason)
     reason = file ? QString() : QStringLiteral("error %1").arg(GetLastError());
 #else
     // All symbols at once: a module that misses something of this host fails here, not later.
-    // Its memory stays: Qt's own tables keep texts of modules until the program ends.
-    void *file = dlopen(QFile::encodeName(path).constData(), RTLD_NOW | RTLD_LOCAL | RTLD_NODELETE);
+    void *file = dlopen(QFile::encodeName(path).constData(), RTLD_NOW | RTLD_LOCAL);
     reason = file ? QString() : QString::fromLocal8Bit(dlerror());
 #endif
     return file;
@@ -75,21 +75,42 @@ void undoStart(OdRxModule &module)
     }
 }
 
+template <class Failure> bool copyAs(const std::exception &failure, std::exception_ptr &copy)
+{
+    if (typeid(failure) == typeid(Failure)) {
+        copy = std::make_exception_ptr(dynamic_cast<const Failure &>(failure));
+    }
+    return copy != nullptr;
+}
+
+/// The same failure as an object of this host's own: what a module threw goes with its file. Of a
+/// class that only the module knows, code and text are left.
+std::exception_ptr hostsOwn(const std::exception &failure)
+{
+    std::exception_ptr copy;
+    const bool isKnown = copyAs<OdError_NotThatKindOfClass>(failure, copy)
+        || copyAs<OdError_InvalidIndex>(failure, copy)
+        || copyAs<OdError_InvalidSysvarValue>(failure, copy)
+        || copyAs<OdError_NotOpenForWrite>(failure, copy) || copyAs<OdBadAllocation>(failure, copy);
+    if (isKnown) {
+        return copy;
+    }
+    const auto *error = dynamic_cast<const OdError *>(&failure);
+    return std::make_exception_ptr(
+        OdError(error ? OdResult(error->code()) : OdResult::kUnspecified, failure.what()));
+}
+
 /// Starts a module.
-/// @return why it did not start, as an error of the host's own: what the module threw goes with its
-/// file.
-std::optional<OdError> failureOfStart(OdRxModule &module)
+/// @return why it did not start; null when it did.
+std::exception_ptr failureOfStart(OdRxModule &module)
 {
     const CKvForeignMemory foreign;
     try {
         module.initApp();
-        return std::nullopt;
-    } catch (const OdError &error) {
+        return nullptr;
+    } catch (const std::exception &failure) {
         undoStart(module);
-        return OdError(OdResult(error.code()), error.what());
-    } catch (const std::exception &error) {
-        undoStart(module);
-        return OdError(OdResult::kUnspecified, error.what());
+        return hostsOwn(failure);
     }
 }
 
@@ -118,11 +139,11 @@ void CKvLoadedModules::load(const QString &path)
     }
     OdRxModuleHandle handle = file;
     OdRxModule *module = create(handle);
-    if (const std::optional<OdError> failure = failureOfStart(*module)) {
+    if (const std::exception_ptr failure = failureOfStart(*module)) {
         // A module that did not start is no module.
         module->deleteModule();
         closeFile(file);
-        throw OdError(*failure);
+        std::rethrow_exception(failure);
     }
     m_modules.push_back({ full, file, module });
 }

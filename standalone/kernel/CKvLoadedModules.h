@@ -19,10 +19,10 @@ public:
     CKvLoadedModules &operator=(const CKvLoadedModules &) = delete;
 
     /// Loads a module's file and starts it; does nothing when it is loaded.
-    /// @throws OdError when the file is no module, and with the code and text of what its start
-    /// throws; it is unloaded again then.
+    /// @throws OdError when the file is no module, and what its start throws; it is unloaded again
+    /// then.
     void load(const QString &path);
-    /// Stops a module and lets its file go, whose memory may stay.
+    /// Stops a module and unloads its file.
     /// @return false when it is not loaded.
     /// @throws what its stop throws; it stays loaded then.
     bool unload(const QString &path);
