@@ -270,6 +270,9 @@ void CKvCommandLine::print(const QString &text)
 void CKvCommandLine::post(OdResBufPtr request)
 {
     m_posted.push_back(std::move(request));
+    // At the next turn of the event loop, ahead of timers that are due: the one that looks for
+    // changes would post again what waits already. While the host is busy, a look now and then.
+    QMetaObject::invokeMethod(this, [this] { runPosted(); }, Qt::QueuedConnection);
     m_postTimer.start();
 }
 
