@@ -5,13 +5,7 @@
 #include "OdDbLayerTable.h"
 #include "OdDbLayerTableRecord.h"
 
-#include <QAbstractButton>
-#include <QApplication>
-#include <QEventLoop>
-#include <QLabel>
-#include <QPushButton>
-#include <QRadioButton>
-#include <QTimer>
+#include <QCoreApplication>
 
 CKvInteractiveTest::CKvInteractiveTest()
 {
@@ -50,21 +44,6 @@ int CKvInteractiveTest::colorOfWalls()
     return walls->color().colorIndex();
 }
 
-void CKvInteractiveTest::press(const QDialog &dialog, QDialogButtonBox::StandardButton which)
-{
-    dialog.findChild<QDialogButtonBox *>(QStringLiteral("buttonBox"))->button(which)->click();
-}
-
-void CKvInteractiveTest::click(const QDialog &dialog, const char *buttonName)
-{
-    dialog.findChild<QAbstractButton *>(QLatin1String(buttonName))->click();
-}
-
-std::string CKvInteractiveTest::text(const QDialog &dialog, const char *labelName)
-{
-    return dialog.findChild<QLabel *>(QLatin1String(labelName))->text().trimmed().toStdString();
-}
-
 void CKvInteractiveTest::keepObject()
 {
     user.answer(QStringLiteral("CKvStandardViolationMessage"),
@@ -86,30 +65,6 @@ std::vector<std::string> CKvInteractiveTest::shown() const
         names.push_back(name.toStdString());
     }
     return names;
-}
-
-QTimer *CKvInteractiveTest::managerTimer()
-{
-    for (const QWidget *widget : QApplication::topLevelWidgets()) {
-        if (qstrcmp(widget->metaObject()->className(), "CKvStdsManagerImpl") == 0) {
-            return widget->findChild<QTimer *>();
-        }
-    }
-    return nullptr;
-}
-
-void CKvInteractiveTest::letTick(int times)
-{
-    QTimer *timer = managerTimer();
-    ASSERT_TRUE(timer && timer->isActive()) << "the timer does not run";
-    QEventLoop loop;
-    const auto connection = QObject::connect(timer, &QTimer::timeout, &loop, [&] {
-        if (--times == 0) {
-            loop.quit();
-        }
-    });
-    loop.exec();
-    QObject::disconnect(connection);
 }
 
 void CKvInteractiveTest::runPosted()

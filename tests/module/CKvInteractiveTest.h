@@ -4,10 +4,8 @@
 #include "CKvCommandLog.h"
 #include "CKvModalScript.h"
 #include "CKvModuleTest.h"
-
-#include <QDialogButtonBox>
-
-class QTimer;
+#include "dialogClicks.h"
+#include "managerTimer.h"
 
 /// An edit that breaks a standard, in the host of the project with the module in it and the timer
 /// running. The standard has WALLS in red; DOORS is not in it. RECOLOR makes WALLS yellow first.
@@ -23,9 +21,6 @@ protected:
     void recolorBare();
     int colorOfWalls();
 
-    static void press(const QDialog &dialog, QDialogButtonBox::StandardButton which);
-    static void click(const QDialog &dialog, const char *buttonName);
-    static std::string text(const QDialog &dialog, const char *labelName);
     /// The user keeps each object that is told.
     void keepObject();
     /// The user wants to verify each object that is told.
@@ -33,9 +28,6 @@ protected:
     /// The classes of the dialogs that came up.
     std::vector<std::string> shown() const;
 
-    static QTimer *managerTimer();
-    /// Lets the manager's timer tick this often while events are handled.
-    static void letTick(int times);
     bool hasPosted() { return session->commandLine().hasPosted(); }
     /// Handles events until all that was posted has run.
     void runPosted();

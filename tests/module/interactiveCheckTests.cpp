@@ -46,13 +46,13 @@ TEST_F(InteractiveCheck, GoesFromTheEditToTheDialogWithJustItsViolations)
     std::vector<std::string> seen;
     user.answer(QLatin1String(kDialog), [&](QDialog &dialog) {
         EXPECT_TRUE(GetKvStandardManager()->isInterStateCheck());
-        seen = { text(dialog, "ObjectTypeLabel"), text(dialog, "ObjectNameLabel") };
+        seen = { labelText(dialog, "ObjectTypeLabel"), labelText(dialog, "ObjectNameLabel") };
         click(dialog, "NextIssueButton");
         press(dialog, QDialogButtonBox::Close);
     });
     std::string total;
     user.answer(QLatin1String(kSummary), [&](QDialog &dialog) {
-        total = text(dialog, "num_violations");
+        total = labelText(dialog, "num_violations");
         dialog.reject();
     });
 
@@ -301,7 +301,7 @@ TEST_F(InteractiveCheck, AnExpressionPostsTwiceAndTheSecondCheckIsOfTheWholeDraw
         press(dialog, QDialogButtonBox::Close);
     });
     user.answer(QLatin1String(kSummary), [&](QDialog &dialog) {
-        totals.push_back(text(dialog, "num_violations"));
+        totals.push_back(labelText(dialog, "num_violations"));
         dialog.reject();
     });
 
