@@ -318,9 +318,11 @@ void CKvMainWindow::closeWhenIdle()
 
 void CKvMainWindow::closeEvent(QCloseEvent *event)
 {
+    // First, so that a drawing that can't be saved keeps the window: what is thrown passes by the
+    // end of this function.
+    event->ignore();
     if (m_desktop.commandLine().isRunning()) {
         m_panel->cancel();
-        event->ignore();
         return;
     }
     CKvHostDocumentManager &documents = *m_desktop.session().documentManager();
@@ -328,7 +330,6 @@ void CKvMainWindow::closeEvent(QCloseEvent *event)
         CKvHostDocument &last = *documents.documents().back();
         if (!mayClose(last)) {
             m_discardsChanges = false;
-            event->ignore();
             return;
         }
         documents.close(last);

@@ -5,8 +5,11 @@
 #include "CKvDesktopTest.h"
 #include "CKvDrawingView.h"
 #include "CKvHostDocument.h"
+#include "CKvModalScript.h"
+#include "CKvTestApplication.h"
 
 #include <QAction>
+#include <QDir>
 #include <QDropEvent>
 #include <QMenu>
 #include <QMenuBar>
@@ -142,6 +145,23 @@ TEST_F(MainWindow, ClosingTheWindowCanBeRefused)
     EXPECT_FALSE(window().close());
 
     EXPECT_NE(m_desktop->activeDocument(), nullptr);
+}
+
+TEST_F(MainWindow, ADrawingThatCanNotBeSavedKeepsTheWindowOpen)
+{
+    ASSERT_TRUE(QDir(m_folder.path()).mkdir(text("plans")));
+    open(write("plans/a.dxf"));
+    changeLayer("L0", 5);
+    ASSERT_TRUE(QDir(path("plans")).removeRecursively());
+    CKvModalScript script;
+    script.answer(text("QMessageBox"), [](QDialog &box) { press(box, QMessageBox::Save); });
+
+    EXPECT_FALSE(window().close());
+
+    EXPECT_EQ(CKvTestApplication::instance()->takeFailures().size(), 1U);
+    EXPECT_TRUE(window().isVisible());
+    ASSERT_NE(m_desktop->activeDocument(), nullptr);
+    EXPECT_TRUE(m_desktop->activeDocument()->isModified());
 }
 
 TEST_F(MainWindow, FilesThatAreDroppedAreOpened)
