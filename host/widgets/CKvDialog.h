@@ -25,6 +25,8 @@ public slots:
     void Help();
 
 protected:
+    /// A dialog whose parent isn't seen stands over the main window.
+    void showEvent(QShowEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
 
 private:

@@ -7,8 +7,31 @@
 #include <QApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QKeyEvent>
 #include <QTextBrowser>
 #include <QUrl>
+
+namespace
+{
+
+/// Escape closes it, as it closes the dialog in front of which it stands.
+class CKvHelpWindow : public QTextBrowser
+{
+public:
+    using QTextBrowser::QTextBrowser;
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override
+    {
+        if (event->matches(QKeySequence::Cancel)) {
+            close();
+        } else {
+            QTextBrowser::keyPressEvent(event);
+        }
+    }
+};
+
+} // namespace
 
 CKvHelpViewer::CKvHelpViewer()
 {
@@ -47,7 +70,7 @@ void CKvHelpViewer::show(int topic)
     QWidget *parent = QApplication::activeModalWidget();
     if (!m_window || m_window->parentWidget() != parent) {
         delete m_window;
-        m_window = new QTextBrowser(parent);
+        m_window = new CKvHelpWindow(parent);
         m_window->setWindowFlag(Qt::Window);
         m_window->setObjectName(QStringLiteral("HelpWindow"));
         m_window->setAccessibleName(QObject::tr("Help"));

@@ -6,6 +6,7 @@
 
 #include <QTest>
 #include <QTextBrowser>
+#include <QWindow>
 
 namespace
 {
@@ -72,4 +73,31 @@ TEST_F(CKvDesktopTest, HelpForAModalDialogCanBeUsedWhileItIsOpen)
     ASSERT_NE(shownHelp(), nullptr);
     EXPECT_EQ(shownHelp()->parentWidget(), &dialog);
     EXPECT_TRUE(shownHelp()->isWindow());
+}
+
+TEST_F(CKvDesktopTest, EscapeClosesTheHelpAndLeavesTheDialogOpen)
+{
+    CKvTopicDialog dialog(true);
+    dialog.setModal(true);
+    dialog.show();
+    dialog.Help();
+    ASSERT_NE(shownHelp(), nullptr);
+
+    QTest::keyClick(shownHelp(), Qt::Key_Escape);
+
+    EXPECT_EQ(shownHelp(), nullptr);
+    EXPECT_TRUE(dialog.isVisible());
+}
+
+TEST_F(CKvDesktopTest, ADialogWhoseParentIsNotSeenStandsOverTheMainWindow)
+{
+    window().move(600, 500);
+    QWidget unseen;
+    CKvDialog dialog(&unseen);
+    dialog.setFixedSize(200, 100);
+
+    dialog.show();
+
+    EXPECT_TRUE(window().geometry().contains(dialog.frameGeometry()));
+    EXPECT_EQ(dialog.windowHandle()->transientParent(), window().windowHandle());
 }
