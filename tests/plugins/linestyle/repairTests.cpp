@@ -96,7 +96,8 @@ TEST_F(LineStyleRepair, ANameThatTheDrawingLacksBringsTheRecordItselfOver)
     m_drawing.modelSpace().line().lineStyle("Continuous");
     m_drawing.modelSpace().line();
     m_drawing.modelSpace().insert("DOOR").attribute("NO", "17").lastChild().lineStyle("STRICHE");
-    m_drawing.modelSpace().polyline().lineStyle("STRICHE").vertex(0, 0);
+    m_drawing.modelSpace().polyline().lineStyle("STRICHE").vertex(0, 0).lastChild().lineStyle(
+        "STRICHE");
     m_drawing.paperSpace().text("Plan").lineStyle("STRICHE");
     m_drawing.currentLineStyle("striche");
     m_office.lineStyle("DASHED").description("__ __").dashes({ 0.5, -0.25 });
