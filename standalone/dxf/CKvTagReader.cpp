@@ -5,6 +5,35 @@
 
 #include <charconv>
 
+namespace
+{
+
+/// Without the zero behind a text; the size of all bytes for a value that has no end.
+std::size_t sizeOfBinaryValue(CKvGroupValueType type, std::string_view bytes, std::size_t begin)
+{
+    switch (type) {
+    case CKvGroupValueType::Bool:
+        return 1;
+    case CKvGroupValueType::Int16:
+        return 2;
+    case CKvGroupValueType::Int32:
+        return 4;
+    case CKvGroupValueType::Int64:
+    case CKvGroupValueType::Real:
+        return 8;
+    case CKvGroupValueType::Bytes:
+        return begin < bytes.size() ? 1 + std::size_t(static_cast<unsigned char>(bytes[begin]))
+                                    : bytes.size();
+    case CKvGroupValueType::Text:
+    case CKvGroupValueType::Handle:
+        break;
+    }
+    const std::size_t zero = bytes.find('\0', begin);
+    return zero == std::string_view::npos ? bytes.size() : zero - begin;
+}
+
+} // namespace
+
 bool CKvTagReader::readOddCode(std::size_t lineEnd)
 {
     const std::string_view line = trimmed(m_bytes.substr(m_position, lineEnd - m_position));
@@ -47,37 +76,10 @@ bool CKvTagReader::nextBinary()
         codeSize == 1 ? int(byteAt(codeAt)) : int(byteAt(codeAt) | byteAt(codeAt + 1) << 8);
     m_tag.begin = m_position;
     m_tag.valueBegin = m_position + codeSize;
-    std::size_t size = 0;
-    std::size_t behind = 0;
-    switch (groupValueType(m_tag.code)) {
-    case CKvGroupValueType::Bool:
-        size = 1;
-        break;
-    case CKvGroupValueType::Int16:
-        size = 2;
-        break;
-    case CKvGroupValueType::Int32:
-        size = 4;
-        break;
-    case CKvGroupValueType::Int64:
-    case CKvGroupValueType::Real:
-        size = 8;
-        break;
-    case CKvGroupValueType::Bytes:
-        if (m_tag.valueBegin < m_bytes.size()) {
-            size = 1 + byteAt(m_tag.valueBegin);
-        } else {
-            size = m_bytes.size();
-        }
-        break;
-    case CKvGroupValueType::Text:
-    case CKvGroupValueType::Handle: {
-        const std::size_t zero = m_bytes.find('\0', m_tag.valueBegin);
-        size = zero == std::string_view::npos ? m_bytes.size() : zero - m_tag.valueBegin;
-        behind = 1;
-        break;
-    }
-    }
+    const CKvGroupValueType type = groupValueType(m_tag.code);
+    const std::size_t size = sizeOfBinaryValue(type, m_bytes, m_tag.valueBegin);
+    const bool isText = type == CKvGroupValueType::Text || type == CKvGroupValueType::Handle;
+    const std::size_t behind = isText ? 1 : 0;
     if (size + behind > m_bytes.size() - m_tag.valueBegin) {
         m_fault = Fault::ValueMissing;
         return false;

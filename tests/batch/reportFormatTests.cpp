@@ -45,18 +45,8 @@ protected:
     }
 };
 
-} // namespace
-
-TEST_F(BatchReport, JsonHasTheKeysInTheirOrder)
-{
-    const CKvBatchRun result = run({ QStringLiteral("check"),
-                                     QStringLiteral("a.dxf"),
-                                     QStringLiteral("-s"),
-                                     QStringLiteral("std.dxf"),
-                                     QStringLiteral("-f"),
-                                     QStringLiteral("json") });
-
-    EXPECT_EQ(withoutFolder(result.output), R"({
+/// The report of the drawing above, but for the folder.
+constexpr char kJsonReport[] = R"({
   "schema": 1,
   "tool": {
     "name": "kvstandards",
@@ -180,7 +170,20 @@ TEST_F(BatchReport, JsonHasTheKeysInTheirOrder)
     }
   ]
 }
-)");
+)";
+
+} // namespace
+
+TEST_F(BatchReport, JsonHasTheKeysInTheirOrder)
+{
+    const CKvBatchRun result = run({ QStringLiteral("check"),
+                                     QStringLiteral("a.dxf"),
+                                     QStringLiteral("-s"),
+                                     QStringLiteral("std.dxf"),
+                                     QStringLiteral("-f"),
+                                     QStringLiteral("json") });
+
+    EXPECT_EQ(withoutFolder(result.output), kJsonReport);
 }
 
 TEST_F(BatchReport, JsonLinesHaveEachDrawingOnALineAndNoFrame)
