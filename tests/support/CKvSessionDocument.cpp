@@ -54,7 +54,7 @@ public:
     OdResBufPtr getSysVar(const OdString &name) const override
     {
         if (name != OdString("STANDARDSVIOLATION")) {
-            return OdDbDatabase::getSysVar(name);
+            return CKvDatabase::getSysVar(name);
         }
         OdResBufPtr value = OdResBuf::newRb(OdResBuf::kRtInt16);
         value->setInt16(std::int16_t(m_document.notification));
