@@ -43,15 +43,6 @@ constexpr std::array<CKvCategory, 4> kCategories = { {
       &OdDbDatabase::getTextStyleTableId },
 } };
 
-QString wordsOfAll()
-{
-    QStringList words;
-    for (const CKvCategory &category : kCategories) {
-        words << QString::fromLatin1(category.word);
-    }
-    return words.join(QStringLiteral(", "));
-}
-
 } // namespace
 
 const std::vector<const CKvCategory *> &allCategories()
@@ -67,6 +58,15 @@ const std::vector<const CKvCategory *> &allCategories()
     return s_all;
 }
 
+QStringList categoryWords()
+{
+    QStringList words;
+    for (const CKvCategory &category : kCategories) {
+        words << QString::fromLatin1(category.word);
+    }
+    return words;
+}
+
 const CKvCategory &categoryOf(const QString &word)
 {
     for (const CKvCategory &category : kCategories) {
@@ -75,7 +75,7 @@ const CKvCategory &categoryOf(const QString &word)
         }
     }
     throw CKvUsageError(QStringLiteral("There is no category \"%1\". The categories are %2.")
-                            .arg(word, wordsOfAll()));
+                            .arg(word, categoryWords().join(QStringLiteral(", "))));
 }
 
 std::vector<const CKvCategory *> categoriesOf(const QStringList &words)

@@ -24,6 +24,8 @@ struct CKvCategory {
 
 /// All categories in the order in which they are checked and reported.
 const std::vector<const CKvCategory *> &allCategories();
+/// The words of all categories.
+QStringList categoryWords();
 /// The categories of these words, in the order of the checks; all when there is no word.
 /// @throws CKvUsageError for a word that names none.
 std::vector<const CKvCategory *> categoriesOf(const QStringList &words);

@@ -51,7 +51,7 @@ void addCategories(CLI::App &command, QStringList &target)
                 target << word.trimmed();
             }
         },
-        "Categories, comma separated: dimstyles,layers,linestyles,textstyles");
+        "Categories, comma separated: " + categoryWords().join(QLatin1Char(',')).toStdString());
 }
 
 void addLanguage(CLI::App &command)
