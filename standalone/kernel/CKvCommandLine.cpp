@@ -74,7 +74,11 @@ CKvCommandLine::CKvCommandLine(CKvCommandStack &stack, CKvEditor &editor)
     s_current = this;
     m_postTimer.setInterval(kPostIntervalMs);
     connect(&m_postTimer, &QTimer::timeout, this, &CKvCommandLine::runPosted);
-    connect(this, &QObject::destroyed, [] { s_current = nullptr; });
+}
+
+CKvCommandLine::~CKvCommandLine()
+{
+    s_current = nullptr;
 }
 
 CKvCommandLine *CKvCommandLine::current()
@@ -272,7 +276,7 @@ void CKvCommandLine::post(OdResBufPtr request)
     m_posted.push_back(std::move(request));
     // At the next turn of the event loop, ahead of timers that are due: the one that looks for
     // changes would post again what waits already. While the host is busy, a look now and then.
-    QMetaObject::invokeMethod(this, [this] { runPosted(); }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(this, "runPosted", Qt::QueuedConnection);
     m_postTimer.start();
 }
 

@@ -27,6 +27,7 @@ public:
     enum class Outcome { Ended, Failed, Cancelled, Unknown };
 
     CKvCommandLine(CKvCommandStack &stack, CKvEditor &editor);
+    ~CKvCommandLine() override;
 
     /// The one of the running session; null when there is none.
     static CKvCommandLine *current();
@@ -74,12 +75,14 @@ signals:
     void commandFinished(const QString &name);
     void printed(const QString &text);
 
+private slots:
+    void runPosted();
+
 private:
     Outcome execute(OdEdCommand &command);
     void finish(OdEdCommand &command, CKvHostCommandContext &context, Outcome outcome);
     Outcome evaluate(const QString &expression);
     void runLines();
-    void runPosted();
     QString takeAnswer(CKvInput::Kind kind);
 
     CKvCommandStack &m_stack;
