@@ -135,6 +135,40 @@ TEST_F(VerifyStandards, CategoriesThatTheUserDoesNotWantAreNotAskedFor)
     EXPECT_THAT(requests(), IsEmpty());
 }
 
+TEST_F(VerifyStandards, AnyOtherResultThanOkAsksForNoCategories)
+{
+    open({});
+    plugin.disable();
+    user.answer(QLatin1String(kNoCategory), [](QDialog &dialog) { dialog.done(2); });
+
+    EXPECT_EQ(run(), 5100);
+
+    EXPECT_THAT(requests(), IsEmpty());
+}
+
+TEST_F(VerifyStandards, ItsMessagesAreChildrenOfTheMainWindow)
+{
+    std::vector<const QWidget *> parents;
+    for (const char *message : { kNoCategory, kNoFile, kMissing }) {
+        user.answer(QLatin1String(message), [&parents](QDialog &dialog) {
+            parents.push_back(dialog.parentWidget());
+            dialog.reject();
+        });
+    }
+    open({});
+
+    plugin.setEnabled(false);
+    run();
+    plugin.setEnabled(true);
+    run();
+    document.reset();
+    open(QStringList(path("gone.dws")));
+    run();
+
+    EXPECT_THAT(shown(), ElementsAre(kNoCategory, kNoFile, kMissing));
+    EXPECT_THAT(parents, testing::AllOf(testing::SizeIs(3), testing::Each(host.mainWindow())));
+}
+
 TEST_F(VerifyStandards, OneCategoryThatIsCheckedIsEnough)
 {
     CKvRecordingPlugin other("styles", calls);
@@ -255,6 +289,17 @@ TEST_F(VerifyStandards, AFileThatTheSearchFindsCountsAndIsUsed)
     EXPECT_THAT(
         host.callsOf("findFile"),
         ElementsAre("findFile office.dws 0 database 0", "findFile office.dws 0 database 0"));
+}
+
+TEST_F(VerifyStandards, AFileThatTheSearchNamesButThatIsNotThereIsMissing)
+{
+    host.setSupportFile("office.dws", path("found/office.dws"));
+    open(QStringList(path("gone/office.dws")));
+    press(kMissing, kCancel);
+
+    EXPECT_EQ(run(), 5100);
+
+    EXPECT_THAT(shown(), ElementsAre(kMissing));
 }
 
 TEST_F(VerifyStandards, APathWithBackslashesIsTestedAsItStands)

@@ -7,6 +7,7 @@
 #include "CKvStandardViolationMessage.h"
 #include "clickLabelled.h"
 #include "formFacts.h"
+#include "helpTopics.h"
 
 #include <QCheckBox>
 #include <QDialogButtonBox>
@@ -19,6 +20,7 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <vector>
 
 namespace
 {
@@ -174,6 +176,18 @@ TEST_P(MessageDialog, TheSentenceStandsBesideAWarningIcon)
     const auto *label = m_dialog->findChild<QLabel *>(QStringLiteral("label_4"));
     ASSERT_FALSE(icon.isNull());
     EXPECT_EQ(label->pixmap(Qt::ReturnByValue).toImage(), icon.toImage());
+}
+
+TEST_P(MessageDialog, F1OpensItsHelpTopic)
+{
+    std::vector<int> topics;
+    setHelpTopicViewer([&topics](int topic) { topics.push_back(topic); });
+    m_dialog->show();
+
+    QTest::keyClick(m_dialog.get(), Qt::Key_F1);
+    setHelpTopicViewer({});
+
+    EXPECT_EQ(topics, std::vector<int> { GetParam().helpTopic });
 }
 
 TEST_P(MessageDialog, ItHasItsSlotsAndNoOthers)

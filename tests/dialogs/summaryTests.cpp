@@ -2,6 +2,7 @@
 #include "CKvModalScript.h"
 #include "CKvVerfiyCompleteMessage.h"
 #include "formFacts.h"
+#include "helpTopics.h"
 
 #include <QDialogButtonBox>
 #include <QLabel>
@@ -10,6 +11,8 @@
 #include <QTest>
 
 #include <gtest/gtest.h>
+
+#include <vector>
 
 namespace
 {
@@ -147,6 +150,18 @@ TEST_F(Summary, CountsOfNothingAreZeros)
     expectLine(m_summary, "num_manualFix", "0");
 }
 
+TEST_F(Summary, F1OpensTheTopicOfTheCommand)
+{
+    std::vector<int> topics;
+    setHelpTopicViewer([&topics](int topic) { topics.push_back(topic); });
+    m_summary.show();
+
+    QTest::keyClick(&m_summary, Qt::Key_F1);
+    setHelpTopicViewer({});
+
+    EXPECT_EQ(topics, std::vector<int> { 3072 });
+}
+
 TEST_F(Summary, CloseIsTheOnlyButtonAndRejects)
 {
     CKvModalScript script;
@@ -162,6 +177,16 @@ TEST_F(Summary, CloseIsTheOnlyButtonAndRejects)
 
     EXPECT_EQ(result, int(QDialog::Rejected));
     EXPECT_EQ(rejections, 1);
+}
+
+TEST_F(Summary, AButtonThatAcceptsWouldAcceptIt)
+{
+    m_summary.show();
+
+    emit m_summary.findChild<QDialogButtonBox *>()->accepted();
+
+    EXPECT_EQ(m_summary.result(), int(QDialog::Accepted));
+    EXPECT_FALSE(m_summary.isVisible());
 }
 
 TEST_F(Summary, ItHasNoSlotsOrSignalsOfItsOwn)

@@ -105,6 +105,16 @@ TEST_F(LoadStandards, AFileThatTheSearchFindsStandsForTheOneThatIsGone)
                                           "findFile other.dws 0 database 0" }));
 }
 
+TEST_F(LoadStandards, AFileThatTheSearchNamesButThatIsNotThereIsLeftOut)
+{
+    host.setSupportFile("office.dws", path("found/office.dws"));
+    CKvSessionDocument &opened = open(QStringList(path("gone/office.dws")));
+
+    EXPECT_FALSE(manager->loadDocumentStandards(&opened));
+
+    EXPECT_EQ(standardsFiles(), "");
+}
+
 TEST_F(LoadStandards, BackslashesBecomeForwardSlashes)
 {
     const QString office = file("office.dws");
