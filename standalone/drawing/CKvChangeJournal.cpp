@@ -6,6 +6,7 @@
 #include "CKvObjectAccess.h"
 #include "OdDbDatabaseReactor.h"
 #include "recordNames.h"
+#include "tellReactors.h"
 
 #include <algorithm>
 #include <functional>
@@ -51,14 +52,12 @@ bool isAsBefore(const CKvChangeStep::Before &before)
 void tell(CKvObjectSlot &slot,
           const std::function<void(OdDbDatabaseReactor &, const OdDbObject &)> &event)
 {
-    const std::vector<OdDbDatabaseReactor *> reactors = slot.store->reactors;
+    const std::vector<OdDbDatabaseReactor *> &reactors = slot.store->reactors;
     if (reactors.empty() || slot.role == Role::Header) {
         return;
     }
     const OdDbObjectPtr object = CKvObjectAccess::open(slot, OdDb::kForRead);
-    for (OdDbDatabaseReactor *reactor : reactors) {
-        event(*reactor, *object);
-    }
+    tellReactors(reactors, [&](OdDbDatabaseReactor &reactor) { event(reactor, *object); });
 }
 
 /// The object is still as it was, and is about to become something else.

@@ -5,17 +5,16 @@
 #include "OdDbDatabase.h"
 #include "OdDbDatabaseReactor.h"
 #include "OdRxClass.h"
+#include "tellReactors.h"
 
 namespace
 {
 
-/// Over a copy, since a reactor may take itself off.
-template <class Event> void tellReactors(const CKvObjectSlot &slot, Event event)
+template <class Event> void tell(const CKvObjectSlot &slot, Event event)
 {
-    const std::vector<OdDbDatabaseReactor *> reactors = slot.store->reactors;
-    for (OdDbDatabaseReactor *reactor : reactors) {
-        event(*reactor, slot.store->database);
-    }
+    const CKvDrawingStore &store = *slot.store;
+    tellReactors(store.reactors,
+                 [&](OdDbDatabaseReactor &reactor) { event(reactor, store.database); });
 }
 
 } // namespace
@@ -50,7 +49,7 @@ CKvObjectSlot &CKvObjectAccess::beginChange(OdDbObject &object)
     }
     CKvObjectSlot &slot = *object.m_slot;
     if (slot.store && !slot.isModified) {
-        tellReactors(slot, [&](OdDbDatabaseReactor &reactor, const OdDbDatabase *database) {
+        tell(slot, [&](OdDbDatabaseReactor &reactor, const OdDbDatabase *database) {
             reactor.objectOpenedForModify(database, &object);
         });
         slot.isModified = true;
@@ -87,7 +86,7 @@ void CKvObjectAccess::close(OdDbObject &object)
     if (!std::exchange(slot->isModified, false) || slot->isErased) {
         return;
     }
-    tellReactors(*slot, [&](OdDbDatabaseReactor &reactor, const OdDbDatabase *database) {
+    tell(*slot, [&](OdDbDatabaseReactor &reactor, const OdDbDatabase *database) {
         reactor.objectModified(database, &object);
     });
 }
@@ -108,14 +107,14 @@ void CKvObjectAccess::abandon(OdDbObject &object)
 
 void CKvObjectAccess::tellAppended(const OdDbObject &object)
 {
-    tellReactors(*object.m_slot, [&](OdDbDatabaseReactor &reactor, const OdDbDatabase *database) {
+    tell(*object.m_slot, [&](OdDbDatabaseReactor &reactor, const OdDbDatabase *database) {
         reactor.objectAppended(database, &object);
     });
 }
 
 void CKvObjectAccess::tellErased(const OdDbObject &object)
 {
-    tellReactors(*object.m_slot, [&](OdDbDatabaseReactor &reactor, const OdDbDatabase *database) {
+    tell(*object.m_slot, [&](OdDbDatabaseReactor &reactor, const OdDbDatabase *database) {
         reactor.objectErased(database, &object, object.m_slot->isErased);
     });
 }

@@ -3,6 +3,7 @@
 
 #include "OdEdCommandStackReactor.h"
 #include "OdError.h"
+#include "tellReactors.h"
 
 #include <algorithm>
 
@@ -81,10 +82,5 @@ QStringList CKvCommandStack::names() const
 
 void CKvCommandStack::tell(const std::function<void(OdEdCommandStackReactor &)> &action)
 {
-    const std::vector<OdEdCommandStackReactor *> reactors = m_reactors;
-    for (OdEdCommandStackReactor *reactor : reactors) {
-        if (std::find(m_reactors.begin(), m_reactors.end(), reactor) != m_reactors.end()) {
-            action(*reactor);
-        }
-    }
+    tellReactors(m_reactors, action);
 }

@@ -3,6 +3,7 @@
 
 #include "CKvCommandStack.h"
 #include "CKvEditorReactor.h"
+#include "tellReactors.h"
 
 #include <algorithm>
 
@@ -35,12 +36,9 @@ void CKvEditor::removeReactor(OdEditorReactor *reactor)
 
 void CKvEditor::tellLisp(const std::function<void(OdEdLispEngineReactor &)> &action)
 {
-    const std::vector<OdEditorReactor *> reactors = m_reactors;
-    for (OdEditorReactor *reactor : reactors) {
-        const bool isHere =
-            std::find(m_reactors.begin(), m_reactors.end(), reactor) != m_reactors.end();
-        if (CKvEditorReactor *own = isHere ? ownKind(reactor) : nullptr) {
+    tellReactors(m_reactors, [&](OdEditorReactor &reactor) {
+        if (CKvEditorReactor *own = ownKind(&reactor)) {
             action(*own);
         }
-    }
+    });
 }

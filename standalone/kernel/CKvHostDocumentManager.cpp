@@ -4,6 +4,7 @@
 #include "CKvDocumentManagerReactor.h"
 #include "CKvHostDocument.h"
 #include "CKvString.h"
+#include "tellReactors.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -80,12 +81,7 @@ void CKvHostDocumentManager::removeDocumentReactor(CKvDocumentManagerReactor *re
 
 void CKvHostDocumentManager::tell(const std::function<void(CKvDocumentManagerReactor &)> &action)
 {
-    const std::vector<CKvDocumentManagerReactor *> reactors = m_reactors;
-    for (CKvDocumentManagerReactor *reactor : reactors) {
-        if (std::find(m_reactors.begin(), m_reactors.end(), reactor) != m_reactors.end()) {
-            action(*reactor);
-        }
-    }
+    tellReactors(m_reactors, action);
 }
 
 CKvHostDocument &CKvHostDocumentManager::open(const QString &path)

@@ -25,6 +25,20 @@ private:
     int &m_count;
 };
 
+/// Ends another reactor when it hears of a change.
+class CKvEndingReactor : public OdDbDatabaseReactor
+{
+public:
+    explicit CKvEndingReactor(std::unique_ptr<OdDbDatabaseReactor> &other)
+        : m_other(other)
+    {
+    }
+    void objectModified(const OdDbDatabase *, const OdDbObject *) override { m_other.reset(); }
+
+private:
+    std::unique_ptr<OdDbDatabaseReactor> &m_other;
+};
+
 void changeLayer(const OdDbDatabasePtr &drawing)
 {
     const OdDbLayerTablePtr layers(drawing->getLayerTableId().openObject());
@@ -57,6 +71,20 @@ TEST(Reactors, OneThatGoesLeavesTheDrawingsItWasAttachedTo)
     changeLayer(second);
 
     EXPECT_EQ(count, 1);
+}
+
+TEST(Reactors, OneThatAnotherEndsDoesNotHearTheSameEvent)
+{
+    const OdDbDatabasePtr drawing = drawingWithWalls();
+    int count = 0;
+    std::unique_ptr<OdDbDatabaseReactor> counting = std::make_unique<CKvCountingReactor>(count);
+    CKvEndingReactor ending(counting);
+    drawing->addReactor(&ending);
+    drawing->addReactor(counting.get());
+
+    changeLayer(drawing);
+
+    EXPECT_EQ(count, 0);
 }
 
 TEST(Reactors, OneThatOutlivesADrawingStaysWithTheOthers)
