@@ -184,6 +184,19 @@ TEST_F(SessionOptions, ACategoryThatIsGoneEndsIt)
     expectEnded();
 }
 
+TEST_F(SessionOptions, AnotherPluginInItsPlaceIsNoChangeWhenItIsCheckedToo)
+{
+    CKvRecordingPlugin other("other", m_calls);
+
+    options([&] {
+        m_manager.removePlugin(CKvStdsPluginsPtr(&m_styles));
+        m_manager.addPlugin(CKvStdsPluginsPtr(&other));
+    });
+
+    expectGoingOn();
+    m_manager.removePlugin(CKvStdsPluginsPtr(&other));
+}
+
 TEST_F(SessionOptions, WithoutAManagerTheCategoriesAreNotCompared)
 {
     SetKvStandardManager(nullptr);

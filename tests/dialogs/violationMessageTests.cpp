@@ -146,3 +146,14 @@ TEST_F(ViolationMessage, SyncingSetsTheRadiosAsTheChoiceIs)
     EXPECT_EQ(kept, "keep");
     EXPECT_EQ(radios(), "run");
 }
+
+TEST_F(ViolationMessage, SyncingFollowsTheSlotThatWasToldLast)
+{
+    callSlot("clickedObjUnchanged", false);
+    callSlot("clickedRunStandard", false);
+    radio("runStdVerification").setChecked(true);
+
+    m_message.syncRadios();
+
+    EXPECT_EQ(radios(), "keep");
+}
