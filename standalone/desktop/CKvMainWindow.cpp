@@ -131,7 +131,7 @@ void CKvMainWindow::makeStatusBar()
         m_cancel->hide();
         // A drawing that was never seen is as good as not opened.
         if (isFirst && !view->document().isModified()) {
-            m_desktop.session().documentManager()->close(view->document());
+            enter(QStringLiteral("CLOSE"));
         }
     });
 }
@@ -327,12 +327,13 @@ void CKvMainWindow::closeEvent(QCloseEvent *event)
     }
     CKvHostDocumentManager &documents = *m_desktop.session().documentManager();
     while (!documents.documents().empty()) {
-        CKvHostDocument &last = *documents.documents().back();
-        if (!mayClose(last)) {
+        // By the command: who notes what has changed forgets it when that begins.
+        documents.activate(*documents.documents().back());
+        if (m_desktop.commandLine().run(QStringLiteral("CLOSE"))
+            != CKvCommandLine::Outcome::Ended) {
             m_discardsChanges = false;
             return;
         }
-        documents.close(last);
     }
     event->accept();
 }
