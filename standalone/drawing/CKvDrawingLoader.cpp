@@ -28,14 +28,13 @@ int versionNumber(const std::optional<CKvTag> &variable)
 /// ByLayer and ByBlock, model and paper space: many writers leave them out when they count.
 bool isReservedRecord(CKvTableKind kind, const CKvObjectSlot &record)
 {
-    if (kind != CKvTableKind::Block && kind != CKvTableKind::Linetype) {
+    if (kind == CKvTableKind::Block) {
+        return isSpaceName(recordName(record));
+    }
+    if (kind != CKvTableKind::Linetype) {
         return false;
     }
     const QString name = foldedName(recordName(record));
-    if (kind == CKvTableKind::Block) {
-        return name.startsWith(QLatin1String("*model_space"))
-            || name.startsWith(QLatin1String("*paper_space"));
-    }
     return name == QLatin1String("bylayer") || name == QLatin1String("byblock");
 }
 

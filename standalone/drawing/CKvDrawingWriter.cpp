@@ -14,12 +14,6 @@
 namespace
 {
 
-bool isSpaceName(const QString &name)
-{
-    return name.startsWith(QLatin1String("*Model_Space"), Qt::CaseInsensitive)
-        || name.startsWith(QLatin1String("*Paper_Space"), Qt::CaseInsensitive);
-}
-
 /// The records that the saved file has. The record of a block that the file's table lacks is made
 /// up for the walk, and not written as long as nobody changes it.
 std::size_t lastingRecords(const CKvTable &table)

@@ -18,9 +18,7 @@ namespace
 /// A block that programs name: of equal names two drawings have different contents.
 bool isAnonymousBlock(CKvTableKind kind, const QString &name)
 {
-    return kind == CKvTableKind::Block && name.startsWith(QLatin1Char('*'))
-        && !name.startsWith(QLatin1String("*Model_Space"), Qt::CaseInsensitive)
-        && !name.startsWith(QLatin1String("*Paper_Space"), Qt::CaseInsensitive);
+    return kind == CKvTableKind::Block && name.startsWith(QLatin1Char('*')) && !isSpaceName(name);
 }
 
 std::string bracedGroupBytes(const CKvObjectSlot &slot)

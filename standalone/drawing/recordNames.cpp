@@ -17,6 +17,12 @@ QString recordName(const CKvObjectSlot &record)
     return record.format().codec.decode(encodedRecordName(record));
 }
 
+bool isSpaceName(const QString &name)
+{
+    return name.startsWith(QLatin1String("*Model_Space"), Qt::CaseInsensitive)
+        || name.startsWith(QLatin1String("*Paper_Space"), Qt::CaseInsensitive);
+}
+
 void requireValidName(const QString &name)
 {
     if (name.isEmpty()) {
