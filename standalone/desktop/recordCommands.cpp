@@ -8,6 +8,7 @@
 #include "OdDbLayerTableRecord.h"
 #include "OdDbTextStyleTableRecord.h"
 #include "OdError.h"
+#include "angles.h"
 #include "colorFromText.h"
 #include "desktopCommands.h"
 #include "findSupportFile.h"
@@ -23,7 +24,6 @@
 namespace
 {
 
-constexpr double kDegree = 3.14159265358979323846 / 180;
 constexpr int kFrozen = 1;
 
 /// What a command can do, by the word that the user gives for it.
@@ -215,7 +215,7 @@ bool textStyleCommand(CKvDesktop &desktop)
             }) },
           { "OBLIQUE", changesStyle([](CKvDesktop &d, Style &style) {
                 style.setObliquingAngle(askNumber(d, CKvMainWindow::tr("Angle in degrees:"))
-                                        * kDegree);
+                                        * kRadiansPerDegree);
             }) },
           { "SET", makesCurrent(CKvRecordKind::TextStyle, "$TEXTSTYLE", 7) },
           { "DELETE", deletes(CKvRecordKind::TextStyle) } });

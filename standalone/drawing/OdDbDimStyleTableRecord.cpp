@@ -3,6 +3,7 @@
 
 #include "CKvDrawingStore.h"
 #include "CKvObjectAccess.h"
+#include "angles.h"
 #include "dimStyleTags.h"
 #include "dimensionPointers.h"
 #include "extensionDictionary.h"
@@ -16,7 +17,6 @@
 namespace
 {
 
-constexpr double kRadiansPerDegree = 3.14159265358979323846 / 180;
 /// R12 and older have no text style in a dimension style; it is Standard.
 constexpr int kTextStyleVersion = 1012;
 

@@ -3,6 +3,7 @@
 
 #include "CKvDrawingStore.h"
 #include "OdDbDatabase.h"
+#include "angles.h"
 #include "dimensionPointers.h"
 #include "dimensionVariables.h"
 #include "nearestColorIndex.h"
@@ -13,7 +14,6 @@ namespace
 
 using Kind = CKvDimensionVariable::Kind;
 
-constexpr double kRadiansPerDegree = 3.14159265358979323846 / 180;
 constexpr std::string_view kDimStyle = "$DIMSTYLE";
 
 CKvDrawingStore &storeOf(const OdDbDimensionSettings &settings)

@@ -2,6 +2,7 @@
 #include "OdDbTextStyleTableRecord.h"
 
 #include "CKvObjectAccess.h"
+#include "angles.h"
 #include "extendedData.h"
 #include "giFromDbTextStyle.h"
 #include "makeRecord.h"
@@ -25,7 +26,6 @@ constexpr unsigned kCharsetShift = 8;
 constexpr std::uint32_t kByte = 0xFF;
 
 constexpr double kDegreesInHalfTurn = 180;
-constexpr double kRadiansInHalfTurn = 3.14159265358979323846;
 
 /// Where groups of a text style stand: behind the one before them that is there.
 constexpr std::initializer_list<int> kBehindSize = { 70, 2 };
@@ -84,7 +84,7 @@ void setText(CKvObjectSlot &slot,
 double degreesOf(double radians)
 {
     constexpr double kDigits = 1e11;
-    const double degrees = radians * kDegreesInHalfTurn / kRadiansInHalfTurn;
+    const double degrees = radians * kDegreesInHalfTurn / kPi;
     const double rounded = std::round(degrees * kDigits) / kDigits;
     return std::isfinite(rounded) ? rounded : degrees;
 }
@@ -234,7 +234,7 @@ void OdDbTextStyleTableRecord::setXScale(double factor)
 
 double OdDbTextStyleTableRecord::obliquingAngle() const
 {
-    return realOf(*CKvObjectAccess::slotOf(*this), 50, 0) * kRadiansInHalfTurn / kDegreesInHalfTurn;
+    return realOf(*CKvObjectAccess::slotOf(*this), 50, 0) * kPi / kDegreesInHalfTurn;
 }
 
 void OdDbTextStyleTableRecord::setObliquingAngle(double radians)

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "CKvShapeSink.h"
 
+#include "angles.h"
+
 #include <cmath>
 
 namespace
 {
-
-constexpr double kPi = 3.14159265358979323846;
 
 /// Adds the place at the angle, where the arc gets there.
 void addPlace(CKvBox &box, const CKvArcShape &arc, double angle)

@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "curvePoints.h"
 
+#include "angles.h"
+
 #include <algorithm>
 #include <cmath>
 
 namespace
 {
 
-constexpr double kPi = 3.14159265358979323846;
 // Five degrees: an arc as tall as a screen strays from its chords by less than a pixel.
 constexpr double kStep = kPi / 36;
 constexpr int kPointsOfSpan = 12;

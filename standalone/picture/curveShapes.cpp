@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "CKvEntitySource.h"
 #include "CKvShapeSink.h"
+#include "angles.h"
 #include "curvePoints.h"
 #include "entityShapes.h"
 
@@ -8,8 +9,6 @@
 
 namespace
 {
-
-constexpr double kPi = 3.14159265358979323846;
 
 /// The parameter range from start to end, counter-clockwise, at most one turn.
 double sweepOf(double start, double end)

@@ -2,6 +2,7 @@
 #include "hatchBoundary.h"
 
 #include "CKvEntityTags.h"
+#include "angles.h"
 #include "curvePoints.h"
 
 #include <algorithm>
@@ -10,7 +11,6 @@
 namespace
 {
 
-constexpr double kDegree = 3.14159265358979323846 / 180;
 constexpr int kMostFamilies = 200;
 
 /// Walks the tags of a hatch, in which the same code means different things at different places.
@@ -134,8 +134,8 @@ private:
     }
     void appendPart(QPointF center, QPointF u, QPointF v)
     {
-        const double start = take(50) * kDegree;
-        const double end = take(51) * kDegree;
+        const double start = take(50) * kRadiansPerDegree;
+        const double end = take(51) * kRadiansPerDegree;
         const bool isLeft = take(73, 1) != 0;
         // Angles of an edge that runs to the right are counted to the right as well.
         appendArc(m_ring, center, u, isLeft ? v : -v, start, end - start);
@@ -180,7 +180,7 @@ private:
     CKvHatchFamily readFamily()
     {
         CKvHatchFamily family;
-        const double angle = take(53) * kDegree;
+        const double angle = take(53) * kRadiansPerDegree;
         family.direction = { std::cos(angle), std::sin(angle) };
         const double x = take(43);
         family.base = { x, take(44) };

@@ -4,6 +4,7 @@
 #include "CKvObjectSlot.h"
 #include "CKvShapeSink.h"
 #include "CKvTextStyles.h"
+#include "angles.h"
 #include "entityShapes.h"
 #include "textLines.h"
 
@@ -13,7 +14,6 @@
 namespace
 {
 
-constexpr double kDegree = 3.14159265358979323846 / 180;
 constexpr double kDescent = 0.3;
 
 const CKvTextStyles::Style &styleOf(const CKvEntitySource &source)
@@ -65,7 +65,7 @@ void drawLine(const CKvEntitySource &source,
     if (hasTwoPoints && tags.find(11) && shape.width > 0) {
         const QPointF along = tags.point(11) - tags.point(10);
         letterWidth = std::hypot(along.x(), along.y()) / shape.width;
-        rotation = std::atan2(along.y(), along.x()) / kDegree;
+        rotation = std::atan2(along.y(), along.x()) / kRadiansPerDegree;
         height = alignment.horizontal == 3 ? letterWidth : height;
         alignment = {};
     }
@@ -77,8 +77,9 @@ void drawLine(const CKvEntitySource &source,
     shape.placement = QTransform::fromTranslate(-anchor.x(), -anchor.y())
         * QTransform::fromScale(tags.hasFlag(71, 2) ? -letterWidth : letterWidth,
                                 tags.hasFlag(71, 4) ? -height : height)
-        * QTransform(1, 0, std::tan(slant * kDegree), 1, 0, 0) * QTransform().rotate(rotation)
-        * QTransform::fromTranslate(place.x(), place.y()) * tags.plane();
+        * QTransform(1, 0, std::tan(slant * kRadiansPerDegree), 1, 0, 0)
+        * QTransform().rotate(rotation) * QTransform::fromTranslate(place.x(), place.y())
+        * tags.plane();
     sink.text(shape);
 }
 
@@ -120,7 +121,7 @@ void readMultilineText(const CKvEntitySource &source, CKvShapeSink &sink)
     const CKvTextStyles::Style &style = styleOf(source);
     const QPointF along = tags.point(11);
     const double rotation = tags.find(11) && !along.isNull()
-        ? std::atan2(along.y(), along.x()) / kDegree
+        ? std::atan2(along.y(), along.x()) / kRadiansPerDegree
         : tags.real(50);
     const int attachment = std::clamp(tags.integer(71, 1), 1, 9) - 1;
     CKvTextBlock block;
