@@ -184,14 +184,16 @@ TEST(SessionAutomatic, BehindAnEntryWithoutAnErrorTheRepairIsMarkedOnThatEntry)
     CKvVerifyBench bench(kThree);
     bench.host().setFixAutomatically(true);
     bench.violation(1).error = CKvStdsErrorPtr();
+    bench.violation(2).recommendedFix = 1;
 
     bench.show();
     const std::string shown = bench.shown();
     bench.click("NextIssueButton");
 
-    // B stood still when C was repaired, so C is shown and counts as not repaired.
+    // B stood still when C was repaired, so C is shown and counts as not repaired. Nothing was
+    // chosen in B's empty table, so C's own recommendation counted.
     EXPECT_THAT(bench.takeRepairs(),
-                ElementsAre("layers.applyFix A <- A ''", "layers.applyFix C <- C ''"));
+                ElementsAre("layers.applyFix A <- A ''", "layers.applyFix C <- OTHER ''"));
     EXPECT_EQ(shown, "C");
     EXPECT_THAT(bench.summaries(), ElementsAre("3, 2, 0, 0"));
 }

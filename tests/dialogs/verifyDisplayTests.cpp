@@ -186,11 +186,13 @@ TEST(VerifyDisplay, AnEntryWithoutAnErrorIsSwitchedOnAndNamesNobody)
     CKvVerifyBench bench({ QStringLiteral("A") });
     bench.violation(0).error = CKvStdsErrorPtr();
     bench.show();
+    const std::string captionAtFirst = bench.text("label_5");
     bench.click("NextIssueButton");
     const bool isOnBetweenWalks = bench.isOn("ProblemDescLabel");
 
     bench.click("NextIssueButton");
 
+    EXPECT_EQ(captionAtFirst, "");
     EXPECT_FALSE(isOnBetweenWalks);
     EXPECT_TRUE(bench.isOn("ProblemDescLabel"));
     EXPECT_TRUE(bench.isOn("FixIssueButton"));
