@@ -37,8 +37,8 @@ protected:
     void finishPicture();
     /// What was said in the command line, without the lines that were typed.
     QStringList said();
-    /// A child of a window, of that name; fails the test when there is none.
-    template <class T> T *child(QWidget &parent, const char *name)
+    /// A child of an object, of that name; fails the test when there is none.
+    template <class T> static T *child(const QObject &parent, const char *name)
     {
         T *found = parent.findChild<T *>(QString::fromLatin1(name));
         EXPECT_NE(found, nullptr) << name;

@@ -39,12 +39,6 @@ protected:
     {
         static_cast<QMessageBox &>(box).button(button)->click();
     }
-    template <class T> T *child(QObject &parent, const char *name)
-    {
-        T *found = parent.findChild<T *>(QString::fromLatin1(name));
-        EXPECT_NE(found, nullptr) << name;
-        return found;
-    }
 };
 
 } // namespace
