@@ -1,11 +1,31 @@
 // SPDX-License-Identifier: MIT
 #include "CKvTextStyleTest.h"
+#include "textStyleRecords.h"
 
 namespace
 {
 
 class TextStyleRepair : public CKvTextStyleTest
 {
+protected:
+    /// Repairs a style from its own values with another word for the font style.
+    void repairFontStyle(const char *name, const char *fontStyle)
+    {
+        const std::unique_ptr<CKvStdsTextStyleRecord> record =
+            readTextStyle(OdDbTextStyleTableRecordPtr(styleId(name).openObject()));
+        record->fontStyle = CKvString(fontStyle);
+        const CKvStdsFixPtr fix = CKvStdsFix::createObject();
+        writeTextStyleProperties(true, fix, CKvStdsErrorPtr(), *record);
+        CKvString message;
+        m_plugin.applyFix(violationOf(name).error, fix, message);
+    }
+    /// The word for the font style that a style has now.
+    std::string fontStyle(const char *name) const
+    {
+        return readTextStyle(OdDbTextStyleTableRecordPtr(styleId(name).openObject()))
+            ->fontStyle.toQString()
+            .toStdString();
+    }
 };
 
 } // namespace
@@ -102,6 +122,22 @@ TEST_F(TextStyleRepair, TheTypefaceAndWhatBelongsToItStayWhenTheFontStyleChanges
     EXPECT_FALSE(isItalic);
     EXPECT_EQ(charset, 0xCC);
     EXPECT_EQ(pitchAndFamily, 0x22);
+}
+
+TEST_F(TextStyleRepair, TheWordOfTheFontStyleCountsInAnyLetterCaseAndAnUnknownOneIsNormal)
+{
+    m_drawing.textStyle("MINE").font("arial.ttf").typeface("Arial", 0);
+    m_office.textStyle("NOTES");
+    report();
+
+    repairFontStyle("MINE", "bold ITALIC");
+    EXPECT_EQ(fontStyle("MINE"), "Bold Italic");
+    repairFontStyle("MINE", "BOLD");
+    EXPECT_EQ(fontStyle("MINE"), "Bold");
+    repairFontStyle("MINE", "italic");
+    EXPECT_EQ(fontStyle("MINE"), "Italic");
+    repairFontStyle("MINE", "Slanted");
+    EXPECT_EQ(fontStyle("MINE"), "Normal");
 }
 
 TEST_F(TextStyleRepair, AFontOfShapesLeavesTheFontFlagsOfTheTargetAlone)
