@@ -3,6 +3,7 @@
 
 #include "CKvEntityIndex.h"
 #include "CKvSectionReader.h"
+#include "OdDbDictionary.h"
 #include "drawingForm.h"
 #include "objectTags.h"
 #include "recordNames.h"
@@ -223,8 +224,10 @@ void CKvDrawingLoader::readObjects(CKvSectionReader &reader)
         slot.handle = outline.handle;
         m_store->addObject(slot);
     }
-    if (!m_store->m_rootDictionary && !m_store->m_objects.empty()) {
-        m_store->m_rootDictionary = m_store->m_objects.front();
-    }
+    const auto &objects = m_store->m_objects;
+    const auto root = std::find_if(objects.begin(), objects.end(), [](const CKvObjectSlot *object) {
+        return object->rxClass == OdDbDictionary::desc();
+    });
+    m_store->m_rootDictionary = root == objects.end() ? nullptr : *root;
     m_store->m_objectsEnd = reader.contentEnd();
 }

@@ -15,6 +15,16 @@ bool startsWith(std::string_view bytes, std::string_view start)
     return bytes.substr(0, start.size()) == start;
 }
 
+/// By its mark, or by the zeros that every other byte of plain letters is.
+bool isUtf16(std::string_view bytes)
+{
+    if (startsWith(bytes, "\xFF\xFE") || startsWith(bytes, "\xFE\xFF")) {
+        return true;
+    }
+    const auto isZero = [&](std::size_t at) { return at < bytes.size() && bytes[at] == '\0'; };
+    return isZero(0) == isZero(2) && isZero(1) == isZero(3) && isZero(0) != isZero(1);
+}
+
 CKvFileForm asciiForm(std::string_view bytes, std::size_t begin)
 {
     CKvFileForm form;
@@ -50,7 +60,7 @@ CKvFileForm recognisedForm(const CKvFileImage &image)
     if (isDwg(bytes)) {
         refuse(QStringLiteral("This is a DWG file. Save it as DXF and try again."));
     }
-    if (startsWith(bytes, "\xFF\xFE") || startsWith(bytes, "\xFE\xFF")) {
+    if (isUtf16(bytes)) {
         refuse(QStringLiteral("The file is in UTF-16, which is no form of DXF."));
     }
     if (startsWith(bytes, kBinaryMark)) {

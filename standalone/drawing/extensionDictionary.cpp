@@ -69,7 +69,9 @@ CKvObjectSlot *findExtensionDictionary(const CKvObjectSlot &slot)
     CKvTagReader reader(slot.bytes().substr(0, group->end), slot.form(), group->begin);
     while (reader.next()) {
         if (reader.tag().code == 360 || reader.tag().code == 350) {
-            return slot.store->findByHandle(reader.tag().handle());
+            CKvObjectSlot *found = slot.store->findRecordByHandle(reader.tag().handle());
+            // A damaged file may name any object.
+            return found && found->rxClass == OdDbDictionary::desc() ? found : nullptr;
         }
     }
     return nullptr;

@@ -25,6 +25,11 @@ void requireOrdinaryFile(const QString &path)
     if (file.isDir()) {
         throw CKvDxfError(path, 0, QStringLiteral("This is a folder, not a file."));
     }
+    // A file counts as there also when its folder may not be searched.
+    if (!file.isFile() && !CKvFileIdentity::ofPath(path)) {
+        throw CKvDxfError(
+            path, 0, QStringLiteral("The file can't be opened: %1.").arg(qt_error_string()));
+    }
     // Opening a pipe would wait for somebody to write into it, and a device may never end.
     if (!file.isFile()) {
         throw CKvDxfError(

@@ -2,6 +2,7 @@
 #include "CKvFileReplacement.h"
 
 #include "CKvDxfError.h"
+#include "CKvFileIdentity.h"
 
 #include <QFileInfo>
 
@@ -11,8 +12,9 @@ CKvFileReplacement::CKvFileReplacement(const QString &path)
     : m_path(path)
     , m_file(path)
 {
-    const QFileInfo target(path);
-    if (target.exists() && !target.isFile()) {
+    // A file counts as there also when its folder may not be searched; opening it tells why.
+    const bool isThere = CKvFileIdentity::ofPath(path).has_value();
+    if (isThere && !QFileInfo(path).isFile()) {
         refuse(QStringLiteral("it is a folder or a device"));
     }
     if (!m_file.open(QIODevice::WriteOnly)) {

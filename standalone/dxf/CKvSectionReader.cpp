@@ -71,6 +71,12 @@ private:
     bool m_isExtended = false;
 };
 
+/// True when the first line has more than the one carriage return before its line feed.
+bool holdsCarriageReturn(std::string_view bytes)
+{
+    return trimmed(bytes.substr(0, bytes.find('\n'))).find('\r') != std::string_view::npos;
+}
+
 /// @return the line before offset as a view without blanks, and moves offset to its begin.
 std::string_view lineBefore(std::string_view bytes, std::size_t &offset)
 {
@@ -153,7 +159,12 @@ bool CKvSectionReader::advance()
     }
     switch (m_reader.fault()) {
     case CKvTagReader::Fault::CodeIsNoNumber:
-        fail(m_reader.position(), QStringLiteral("A group code must stand here, a whole number."));
+        fail(
+            m_reader.position(),
+            holdsCarriageReturn(m_image->bytes().substr(m_reader.position()))
+                ? QStringLiteral("A carriage return stands here without a line feed, which ends no "
+                                 "line of a drawing.")
+                : QStringLiteral("A group code must stand here, a whole number."));
     case CKvTagReader::Fault::ValueMissing:
         fail(m_reader.position(),
              QStringLiteral("The file ends within a group: its value is missing."));

@@ -38,7 +38,9 @@ const MalformedCase kCases[] = {
     { "block-within-itself", "loads" },
     { "bytes-behind-eof",
       "line 87: There are bytes behind the EOF mark; they are kept and not read." },
-    { "carriage-returns-only", "error: line 1: A group code must stand here, a whole number." },
+    { "carriage-returns-only",
+      "error: line 1: A carriage return stands here without a line feed, which ends no line of a "
+      "drawing." },
     { "comments-only", "error: line 1: There is no section; this is not a drawing." },
     { "dictionaries-hold-each-other", "loads" },
     { "dictionary-holds-itself", "loads" },
@@ -104,6 +106,7 @@ const MalformedCase kCases[] = {
       "line 43: The table LAYER stands here a second time.\nline 15: The table LAYER declares 1 "
       "records and has 2." },
     { "table-without-a-name", "error: line 15: The name of the table is missing." },
+    { "utf-16-without-a-mark", "error: The file is in UTF-16, which is no form of DXF." },
     { "utf-16", "error: The file is in UTF-16, which is no form of DXF." },
     { "value-missing-at-the-end",
       "error: line 67: The file ends within a group: its value is missing." },

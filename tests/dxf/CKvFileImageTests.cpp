@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "CKvDxfError.h"
 #include "CKvFileImage.h"
+#include "CKvOrdinaryUser.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -8,7 +9,6 @@
 #include <gtest/gtest.h>
 
 #include <sys/stat.h>
-#include <unistd.h>
 
 #include <string>
 
@@ -151,11 +151,24 @@ TEST_P(FileImage, RefusesAFileWithoutPermission)
 {
     const QString file = write("secret.dxf", "x");
     ASSERT_TRUE(QFile::setPermissions(file, QFileDevice::Permissions()));
-    if (geteuid() == 0) {
-        GTEST_SKIP() << "the administrator may read every file";
-    }
+    ASSERT_TRUE(QFile::setPermissions(m_folder.path(),
+                                      QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner
+                                          | QFile::ReadGroup | QFile::ExeGroup));
+    const CKvOrdinaryUser user;
 
     EXPECT_EQ(refusal(file, GetParam()), "The file can't be opened: Permission denied.");
+}
+
+TEST_P(FileImage, RefusesAFileInAFolderThatMayNotBeSearched)
+{
+    const QString file = write("a.dxf", "x");
+    ASSERT_TRUE(QFile::setPermissions(m_folder.path(), QFile::ReadOwner | QFile::ReadGroup));
+    {
+        const CKvOrdinaryUser user;
+
+        EXPECT_EQ(refusal(file, GetParam()), "The file can't be opened: Permission denied.");
+    }
+    QFile::setPermissions(m_folder.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
 }
 
 TEST_P(FileImage, RefusesAFileWhoseBytesCannotBeRead)

@@ -214,6 +214,41 @@ TEST(ObjectLifeOfR12, AnExtensionDictionaryIsRefusedWithTheAdviceToSaveInANewerV
     EXPECT_TRUE(drawing->getNamedObjectsDictionaryId().isNull());
 }
 
+TEST(DamagedDictionaries, AnExtensionDictionaryThatIsNoneCountsForNothingAndIsReplaced)
+{
+    CKvDrawingBuilder builder;
+    builder.withDefaults().layer("WALLS").handle("ABC");
+    QByteArray bytes = builder.toBytes();
+    bytes.replace("\nABC\n", "\nABC\n102\n{ACAD_XDICTIONARY\n360\nABC\n102\n}\n");
+    const OdDbDatabasePtr drawing = CKvDrawingFile::fromBytes(bytes);
+    const OdDbObjectId walls = drawing->getOdDbObjectId(OdDbHandle(0xABC));
+
+    EXPECT_TRUE(walls.openObject()->extensionDictionary().isNull());
+    walls.openObject(OdDb::kForWrite)->createExtensionDictionary();
+
+    const OdDbObjectId dictionary = walls.openObject()->extensionDictionary();
+    EXPECT_TRUE(OdDbDictionary::cast(dictionary.openObject().get()));
+    EXPECT_FALSE(CKvDrawingFile::toBytes(*drawing).contains("360\nABC\n"));
+}
+
+TEST(DamagedDictionaries, TheNamedObjectsDictionaryIsTheFirstDictionaryWhateverStandsBeforeIt)
+{
+    const QByteArray begin = "0\nSECTION\n2\nHEADER\n9\n$ACADVER\n1\nAC1015\n0\nENDSEC\n"
+                             "0\nSECTION\n2\nOBJECTS\n0\nXRECORD\n5\nA\n";
+    const QByteArray end = "0\nENDSEC\n0\nEOF\n";
+    const OdDbDatabasePtr drawing =
+        CKvDrawingFile::fromBytes(begin + "0\nDICTIONARY\n5\nB\n" + end);
+    const OdDbDatabasePtr without = CKvDrawingFile::fromBytes(begin + end);
+
+    EXPECT_EQ(drawing->getNamedObjectsDictionaryId().handle(), OdDbHandle(0xB));
+    const OdDbDictionaryPtr root(
+        without->getNamedObjectsDictionaryId().openObject(OdDb::kForWrite));
+    root->setAt(OdString("NOTE"), OdDbXrecord::createObject());
+    const OdDbDatabasePtr again = CKvDrawingFile::fromBytes(CKvDrawingFile::toBytes(*without));
+    EXPECT_TRUE(OdDbDictionaryPtr(again->getNamedObjectsDictionaryId().openObject())
+                    ->has(OdString("NOTE")));
+}
+
 TEST(DictionaryEntries, OfTwoKeysThatDifferInCaseTheFirstCountsAndTheWalkHasItsTwoOrders)
 {
     CKvDrawingBuilder builder;
