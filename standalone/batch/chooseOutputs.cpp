@@ -39,7 +39,7 @@ QString outputFor(const CKvDrawingInput &drawing, const CKvRunOptions &options)
         return {};
     }
     QString output = options.outputFolder + QLatin1Char('/') + drawing.relativePath;
-    if (isDwgFile(drawing.path)) {
+    if (drawing.path.endsWith(QLatin1String(".dwg"), Qt::CaseInsensitive)) {
         output.replace(output.size() - 3, 3, QStringLiteral("dxf"));
     }
     return output;

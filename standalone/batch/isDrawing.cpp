@@ -4,9 +4,7 @@
 #include "CKvFileImage.h"
 #include "OdError.h"
 #include "drawingForm.h"
-#include "dwgConversion.h"
 
-#include <QFile>
 #include <QFileInfo>
 
 #include <algorithm>
@@ -49,16 +47,4 @@ bool isDrawing(const QString &path)
     } catch (const OdError &) {
         return false;
     }
-}
-
-bool isDwgFile(const QString &path)
-{
-    constexpr qint64 kEnough = 16;
-    QFile file(path);
-    if (!path.endsWith(QLatin1String(".dwg"), Qt::CaseInsensitive) || !QFileInfo(path).isFile()
-        || !file.open(QIODevice::ReadOnly)) {
-        return false;
-    }
-    const QByteArray begin = file.read(kEnough);
-    return isDwg({ begin.constData(), std::size_t(begin.size()) });
 }

@@ -6,5 +6,3 @@
 /// Whether there is a file that looks like a drawing, by its name or by how it begins. It may be
 /// damaged all the same.
 bool isDrawing(const QString &path);
-/// Whether the file is called and begins like a DWG file, which can be read and not be written.
-bool isDwgFile(const QString &path);

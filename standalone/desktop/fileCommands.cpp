@@ -17,9 +17,15 @@
 namespace
 {
 
-QString drawingFilter()
+QString openFilter()
 {
-    return CKvMainWindow::tr("Drawings (*.dxf *.DXF);;All files (*)");
+    return CKvMainWindow::tr("Drawings (*.dxf *.DXF *.dxf.gz *.dws *.DWS *.dwg *.DWG);;"
+                             "All files (*)");
+}
+
+QString saveFilter()
+{
+    return CKvMainWindow::tr("Drawings (*.dxf *.DXF *.dxf.gz *.dws *.DWS);;All files (*)");
 }
 
 QString scriptFilter()
@@ -50,10 +56,13 @@ QString fileToSave(CKvDesktop &desktop, const CKvHostDocument &document)
     if (desktop.commandLine().hasAnswer()) {
         path = desktop.commandLine().ask(title, CKvInput::Kind::Text);
     } else {
-        const QString proposed = document.path().isEmpty() ? document.title() : document.path();
+        QString proposed = document.path().isEmpty() ? document.title() : document.path();
+        if (proposed.endsWith(QLatin1String(".dwg"), Qt::CaseInsensitive)) {
+            proposed.replace(proposed.size() - 3, 3, QStringLiteral("dxf"));
+        }
         // Whether somebody else's work would be lost is asked with better words afterwards.
-        path = QFileDialog::getSaveFileName(
-            &desktop.window(), title, proposed, drawingFilter(), nullptr);
+        path =
+            QFileDialog::getSaveFileName(&desktop.window(), title, proposed, saveFilter(), nullptr);
     }
     if (path.isEmpty()) {
         throw CKvCommandCancelled();
@@ -64,7 +73,7 @@ QString fileToSave(CKvDesktop &desktop, const CKvHostDocument &document)
 bool openDrawing(CKvDesktop &desktop)
 {
     const QString path = QDir::fromNativeSeparators(
-        fileToOpen(desktop, CKvMainWindow::tr("Open Drawing"), drawingFilter()));
+        fileToOpen(desktop, CKvMainWindow::tr("Open Drawing"), openFilter()));
     desktop.window().showReading(path);
     CKvHostDocument &document = desktop.session().documentManager()->open(path);
     desktop.session().settings().addRecentFile(document.path());
@@ -112,7 +121,7 @@ bool saveAs(CKvDesktop &desktop)
 bool quickSave(CKvDesktop &desktop)
 {
     CKvHostDocument &document = desktop.requireDocument();
-    return document.path().isEmpty() ? saveAs(desktop) : save(desktop, document, document.path());
+    return document.hasWritableFile() ? save(desktop, document, document.path()) : saveAs(desktop);
 }
 
 bool closeDrawing(CKvDesktop &desktop)

@@ -17,10 +17,9 @@
 namespace
 {
 
-OdDbDatabasePtr openImage(CKvFileImagePtr image)
+OdDbDatabasePtr databaseOf(std::unique_ptr<CKvDrawingStore> store)
 {
-    return OdDbDatabasePtr(new OdDbDatabase(CKvDrawingLoader(std::move(image)).load()),
-                           kOdRxObjAttach);
+    return OdDbDatabasePtr(new OdDbDatabase(std::move(store)), kOdRxObjAttach);
 }
 
 /// @return false also when one of them is missing.
@@ -44,18 +43,24 @@ bool isToBePacked(const CKvFileImage &image, const QString &path)
 
 OdDbDatabasePtr CKvDrawingFile::open(const QString &path, CKvFileImage::Holding holding)
 {
+    return databaseOf(load(path, holding));
+}
+
+std::unique_ptr<CKvDrawingStore> CKvDrawingFile::load(const QString &path,
+                                                      CKvFileImage::Holding holding)
+{
     CKvFileImagePtr image = CKvFileImage::open(path, holding);
     if (isDwg(image->bytes())) {
         if (const std::optional<QByteArray> converted = convertedDwg(path)) {
             image = CKvFileImage::fromConverted(*converted, *image);
         }
     }
-    return openImage(std::move(image));
+    return CKvDrawingLoader(std::move(image)).load();
 }
 
 OdDbDatabasePtr CKvDrawingFile::fromBytes(const QByteArray &bytes, const QString &name)
 {
-    return openImage(CKvFileImage::fromBytes(bytes, name));
+    return databaseOf(CKvDrawingLoader(CKvFileImage::fromBytes(bytes, name)).load());
 }
 
 QByteArray CKvDrawingFile::toBytes(const OdDbDatabase &drawing)
@@ -70,14 +75,17 @@ QByteArray CKvDrawingFile::toBytes(const OdDbDatabase &drawing)
 void CKvDrawingFile::requireReplaceable(const OdDbDatabase &drawing, const QString &path)
 {
     const CKvDrawingStore &store = drawing.store();
-    if (!namesOneFile(path, store.image()->path())) {
-        return;
-    }
-    if (store.image()->isConverted()) {
+    const bool isOwn = namesOneFile(path, store.image()->path());
+    // Somebody may have given a DXF file that name, and may have it back.
+    const bool isMisnamedDxf = isOwn && !store.image()->isConverted();
+    const bool isCalledDwg = path.endsWith(QLatin1String(".dwg"), Qt::CaseInsensitive);
+    if (isDwgFile(path) || (isCalledDwg && !isMisnamedDxf)) {
         throw CKvDxfError(
             path, 0, QStringLiteral("A DWG file can't be written. Save the drawing as DXF."));
     }
-    if (store.ownFile && CKvFileIdentity::ofPath(path) != store.ownFile) {
+    // Of a file that can't be looked at, writing tells why.
+    const std::optional<CKvFileIdentity> now = CKvFileIdentity::ofPath(path);
+    if (isOwn && store.ownFile && now && now != store.ownFile) {
         throw CKvDxfError(path,
                           0,
                           QStringLiteral("The file can't be written: it was changed by somebody "

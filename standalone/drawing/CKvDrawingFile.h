@@ -8,6 +8,10 @@
 #include <QString>
 #include <QStringList>
 
+#include <memory>
+
+class CKvDrawingStore;
+
 /// Opens and saves drawings.
 class CKvDrawingFile
 {
@@ -17,6 +21,9 @@ public:
     /// damaged.
     static OdDbDatabasePtr open(const QString &path,
                                 CKvFileImage::Holding holding = CKvFileImage::Holding::Copied);
+    /// As open, for who makes a database of its own class.
+    static std::unique_ptr<CKvDrawingStore> load(const QString &path,
+                                                 CKvFileImage::Holding holding);
     /// A drawing from memory.
     /// @param name stands for the file in errors; it is the drawing's getFilename.
     /// @throws CKvDxfError as open.
@@ -27,10 +34,10 @@ public:
     /// Replaces the file atomically or not at all. A name that ends in .gz is packed, and so is a
     /// drawing that was packed under a name that doesn't.
     /// @throws CKvDxfError, also when the path is that of the drawing's own file and somebody has
-    /// changed it since, or it is a DWG file; the old file is then as it was.
+    /// changed it since, or when a DWG file is there; the old file is then as it was.
     static void save(const OdDbDatabase &drawing, const QString &path);
     /// For what must be known before anything else is written.
-    /// @throws CKvDxfError when save would refuse to replace the drawing's own file.
+    /// @throws CKvDxfError when save would refuse to replace what is there.
     static void requireReplaceable(const OdDbDatabase &drawing, const QString &path);
 
     /// True when saving would write other bytes than were read.

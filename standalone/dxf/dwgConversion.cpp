@@ -40,6 +40,18 @@ bool isDwg(std::string_view bytes)
     return mark == "AC10" || mark == "AC1." || mark == "AC2.";
 }
 
+bool isDwgFile(const QString &path)
+{
+    constexpr qint64 kEnough = 16;
+    QFile file(path);
+    // Opening a pipe would wait for somebody to write into it.
+    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly)) {
+        return false;
+    }
+    const QByteArray begin = file.read(kEnough);
+    return isDwg({ begin.constData(), std::size_t(begin.size()) });
+}
+
 std::optional<QByteArray> convertedDwg(const QString &path)
 {
     const QString program = QStandardPaths::findExecutable(QStringLiteral("dwg2dxf"));

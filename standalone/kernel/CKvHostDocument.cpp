@@ -4,7 +4,7 @@
 #include "CKvDrawingFile.h"
 #include "CKvDrawingLoader.h"
 #include "CKvDrawingStore.h"
-#include "CKvFileIdentity.h"
+#include "dwgConversion.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -24,10 +24,10 @@ CKvHostDocument::~CKvHostDocument()
 
 std::unique_ptr<CKvHostDocument> CKvHostDocument::open(const QString &path)
 {
-    CKvDrawingLoader loader(CKvFileImage::open(path, CKvFileImage::Holding::Copied));
-    const CKvDatabasePtr database(new CKvDatabase(loader.load()), kOdRxObjAttach);
+    const CKvDatabasePtr database(
+        new CKvDatabase(CKvDrawingFile::load(path, CKvFileImage::Holding::Copied)), kOdRxObjAttach);
     std::unique_ptr<CKvHostDocument> document(new CKvHostDocument(database));
-    document->takeFile(path);
+    document->takeFile(path, database->store().ownFile);
     return document;
 }
 
@@ -44,6 +44,11 @@ std::unique_ptr<CKvHostDocument> CKvHostDocument::fromTemplate(const QString &pa
     return document;
 }
 
+bool CKvHostDocument::hasWritableFile() const
+{
+    return !m_path.isEmpty() && !isDwgFile(m_path);
+}
+
 QString CKvHostDocument::title() const
 {
     return m_path.isEmpty() ? m_title : QFileInfo(m_path).fileName();
@@ -56,10 +61,9 @@ QString CKvHostDocument::lockPathOf(const QString &path)
                    + QLatin1String(".lock"));
 }
 
-void CKvHostDocument::takeFile(const QString &path)
+void CKvHostDocument::takeFile(const QString &path, const std::optional<CKvFileIdentity> &state)
 {
-    const QFileInfo file(path);
-    const QString newPath = QDir::cleanPath(file.absoluteFilePath());
+    const QString newPath = QDir::cleanPath(QFileInfo(path).absoluteFilePath());
     if (newPath != m_path || !m_lock || !m_lock->isLocked()) {
         m_lock = std::make_unique<QLockFile>(lockPathOf(newPath));
         // A crashed program's lock is its process's; only the living count.
@@ -67,8 +71,7 @@ void CKvHostDocument::takeFile(const QString &path)
         m_lock->tryLock(0);
     }
     m_path = newPath;
-    m_fileTime = file.lastModified();
-    m_fileSize = file.size();
+    m_file = state;
 }
 
 CKvHostDocument::Hindrance CKvHostDocument::hindranceTo(const QString &path) const
@@ -88,9 +91,7 @@ CKvHostDocument::Hindrance CKvHostDocument::hindranceTo(const QString &path) con
     if (m_lock && !m_lock->isLocked() && m_lock->error() == QLockFile::LockFailedError) {
         return Hindrance::OpenElsewhere;
     }
-    return file.lastModified() == m_fileTime && file.size() == m_fileSize
-        ? Hindrance::None
-        : Hindrance::ChangedOnDisk;
+    return CKvFileIdentity::ofPath(target) == m_file ? Hindrance::None : Hindrance::ChangedOnDisk;
 }
 
 void CKvHostDocument::saveAs(const QString &path)
@@ -102,6 +103,6 @@ void CKvHostDocument::saveAs(const QString &path)
         m_database->store().ownFile = CKvFileIdentity::ofPath(path);
     }
     CKvDrawingFile::save(*m_database, path);
-    takeFile(path);
+    takeFile(path, CKvFileIdentity::ofPath(path));
     m_undo->noteSaved();
 }

@@ -4,14 +4,15 @@
 #include "CKvDatabase.h"
 #include "CKvDocument.h"
 #include "CKvDocumentSelection.h"
+#include "CKvFileIdentity.h"
 #include "CKvHostCommandContext.h"
 #include "CKvUndoStack.h"
 
-#include <QDateTime>
 #include <QLockFile>
 #include <QString>
 
 #include <memory>
+#include <optional>
 
 /// An open drawing of this host: its file, its command line, what is selected in it.
 class CKvHostDocument : public CKvDocument
@@ -20,7 +21,7 @@ public:
     /// What stands in the way of overwriting a file.
     enum class Hindrance { None, ChangedOnDisk, OpenElsewhere };
 
-    /// Opens a file.
+    /// Opens a file, a packed one and a DWG file too (CKvDrawingFile::open).
     /// @throws CKvDxfError with file, line and reason.
     static std::unique_ptr<CKvHostDocument> open(const QString &path);
     /// A new drawing with the contents of another, without a file.
@@ -37,6 +38,9 @@ public:
 
     /// Full path of the file; empty for a new drawing.
     const QString &path() const { return m_path; }
+    /// False for a drawing that has no file yet and one that was read from a DWG file: saving it
+    /// needs another name.
+    bool hasWritableFile() const;
     /// What the user knows the drawing by.
     QString title() const;
     /// True when something was changed that was not saved.
@@ -55,7 +59,7 @@ public:
 
 private:
     explicit CKvHostDocument(CKvDatabasePtr database);
-    void takeFile(const QString &path);
+    void takeFile(const QString &path, const std::optional<CKvFileIdentity> &state);
     static QString lockPathOf(const QString &path);
 
     CKvDatabasePtr m_database;
@@ -66,7 +70,7 @@ private:
     std::unique_ptr<QLockFile> m_lock;
     QString m_path;
     QString m_title;
-    QDateTime m_fileTime;
-    qint64 m_fileSize = -1;
+    /// The file when it was read or saved.
+    std::optional<CKvFileIdentity> m_file;
     int m_busy = 0;
 };

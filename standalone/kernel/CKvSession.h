@@ -61,7 +61,8 @@ public:
 private:
     CKvSystemServices *m_before;
     CKvStoredSettings m_settings;
-    CKvStandaloneAppServices m_appServices;
+    /// What a session has read stays open, and somebody else may shorten the file meanwhile.
+    CKvStandaloneAppServices m_appServices { CKvFileImage::Holding::Copied };
     OdStaticRxObject<CKvCommandStack> m_stack;
     OdStaticRxObject<CKvEditor> m_editor;
     OdStaticRxObject<CKvHostCommandContext> m_emptyContext;

@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "CKvCommandPanel.h"
 #include "CKvDesktopTest.h"
+#include "CKvDwgProgram.h"
 #include "CKvDxfError.h"
 #include "CKvHostDocument.h"
 #include "CKvMainWindow.h"
 #include "OdError.h"
 
+#include <QFileDialog>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTest>
@@ -86,6 +88,29 @@ TEST_F(FileCommands, ANewDrawingAsksForItsNameWhenItIsSaved)
 
     EXPECT_EQ(titles(), list({ "named.dxf" }));
     EXPECT_TRUE(contentOf(path("named.dxf")).contains("AC1032"));
+}
+
+TEST_F(FileCommands, ADrawingOutOfADwgFileIsSavedAsDxfUnderANameThatTheUserGives)
+{
+    const CKvDwgProgram program(write("made.dxf"));
+    CKvDwgProgram::writeDwg(path("plan.dwg"));
+    open(path("plan.dwg"));
+    changeLayer("L0", 5);
+    QStringList proposed;
+    CKvModalScript script;
+    script.answer(text("QFileDialog"), [&](QDialog &dialog) {
+        proposed = static_cast<QFileDialog &>(dialog).selectedFiles();
+        dialog.accept();
+    });
+
+    enter("QSAVE");
+
+    EXPECT_EQ(proposed, QStringList { path("plan.dxf") });
+    EXPECT_EQ(titles(), list({ "plan.dxf" }));
+    EXPECT_TRUE(CKvDwgProgram::isAsWritten(path("plan.dwg")));
+    EXPECT_NE(contentOf(path("plan.dxf")), contentOf(path("made.dxf")));
+    EXPECT_THROW(enter(QString(text("SAVEAS ") + path("plan.dwg"))), CKvDxfError);
+    EXPECT_TRUE(CKvDwgProgram::isAsWritten(path("plan.dwg")));
 }
 
 TEST_F(FileCommands, AFileThatChangedOnDiskIsReplacedOnlyAfterAYes)

@@ -3,6 +3,7 @@
 
 #include "CKvDocumentManagerReactor.h"
 #include "CKvDrawingBuilder.h"
+#include "CKvDwgProgram.h"
 #include "CKvDxfError.h"
 #include "CKvSession.h"
 #include "OdDbLayerTable.h"
@@ -309,4 +310,41 @@ TEST_F(HostDocument, AFileThatIsNoModuleIsRefused)
     EXPECT_THROW(m_session.modules().load(path), OdError);
     EXPECT_EQ(m_session.modules().paths(), QStringList());
     EXPECT_FALSE(m_session.modules().unload(path));
+}
+
+TEST_F(HostDocument, ADwgFileIsReadByTheProgramOnThePathAndNeverReplaced)
+{
+    const QString made = write("made.dxf");
+    const CKvDwgProgram program(made);
+    const QString path = m_folder.filePath(text("plan.dwg"));
+    CKvDwgProgram::writeDwg(path);
+
+    CKvHostDocument &document = documents().open(path);
+    changeLayer(document);
+
+    EXPECT_EQ(document.title(), text("plan.dwg"));
+    EXPECT_FALSE(document.hasWritableFile());
+    EXPECT_THROW(document.saveAs(path), CKvDxfError);
+    EXPECT_TRUE(CKvDwgProgram::isAsWritten(path));
+    EXPECT_TRUE(document.isModified());
+    document.saveAs(m_folder.filePath(text("plan.dxf")));
+    EXPECT_TRUE(document.hasWritableFile());
+    EXPECT_FALSE(document.isModified());
+    changeLayer(document);
+    document.saveAs(document.path());
+    EXPECT_TRUE(CKvDwgProgram::isAsWritten(path));
+}
+
+TEST_F(HostDocument, StandardsThatASessionReadsLastWhenTheirFileIsShortened)
+{
+    const QString path = write("office.dxf", 3);
+    const OdDbDatabasePtr standards =
+        m_session.hostAppServices()->readFile(OdString(path), false, true, 64, OdString());
+
+    ASSERT_TRUE(QFile::resize(path, 0));
+
+    const OdDbLayerTablePtr layers(standards->getLayerTableId().openObject());
+    EXPECT_TRUE(layers->has(OdString("L2")));
+    const OdDbLayerTableRecordPtr last(layers->getAt(OdString("L2")).openObject());
+    EXPECT_EQ(last->getName(), OdString("L2"));
 }

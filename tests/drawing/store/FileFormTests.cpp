@@ -2,7 +2,9 @@
 #include "CKvDrawingBuilder.h"
 #include "CKvDrawingFile.h"
 #include "CKvDrawingStore.h"
+#include "CKvDwgProgram.h"
 #include "CKvDxfError.h"
+#include "CKvOrdinaryUser.h"
 #include "OdDbLayerTableRecord.h"
 #include "drawingText.h"
 #include "gzip.h"
@@ -14,8 +16,6 @@
 #include <gtest/gtest.h>
 
 #include <string>
-
-#include <unistd.h>
 
 namespace
 {
@@ -182,14 +182,13 @@ TEST_F(FileForm, AFolderWithoutPermissionIsAnErrorAndTheOldFileIsAsItWas)
     QFile::setPermissions(m_folder.path(),
                           QFile::ReadOwner | QFile::ExeOwner | QFile::ReadGroup | QFile::ExeGroup
                               | QFile::ReadOther | QFile::ExeOther);
-    // To the administrator every folder is open; somebody else's rights are taken on meanwhile.
-    constexpr uid_t kNobody = 65534;
-    const bool isAdministrator = geteuid() == 0;
-    ASSERT_TRUE(!isAdministrator || seteuid(kNobody) == 0);
+    std::string reason;
+    {
+        const CKvOrdinaryUser user;
 
-    const std::string reason = refusal(drawing, path("plan.dxf"));
+        reason = refusal(drawing, path("plan.dxf"));
+    }
 
-    ASSERT_TRUE(!isAdministrator || seteuid(0) == 0);
     QFile::setPermissions(m_folder.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     EXPECT_EQ(reason, "The file can't be written: Permission denied.");
     EXPECT_EQ(bytesOf(path("plan.dxf")), m_builder.toBytes());
@@ -197,23 +196,69 @@ TEST_F(FileForm, AFolderWithoutPermissionIsAnErrorAndTheOldFileIsAsItWas)
               QStringList { QStringLiteral("plan.dxf") });
 }
 
+TEST_F(FileForm, AFolderThatMayNotBeSearchedIsAnErrorAndTheOldFileIsAsItWas)
+{
+    write(path("plan.dxf"), m_builder.toBytes());
+    const OdDbDatabasePtr drawing = CKvDrawingFile::open(path("plan.dxf"));
+    paint(drawing, 6);
+    QFile::setPermissions(m_folder.path(), QFile::ReadOwner | QFile::ReadGroup);
+    std::string reason;
+    {
+        const CKvOrdinaryUser user;
+
+        reason = refusal(drawing, path("plan.dxf"));
+    }
+
+    QFile::setPermissions(m_folder.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    EXPECT_EQ(reason, "The file can't be written: Permission denied.");
+    EXPECT_EQ(bytesOf(path("plan.dxf")), m_builder.toBytes());
+}
+
 TEST_F(FileForm, ADwgFileIsReadByTheProgramOnThePathAndNeverReplaced)
 {
-    const QByteArray pathBefore = qgetenv("PATH");
-    write(path("plan.dwg"), "AC1032 by another program");
     write(path("made.dxf"), m_builder.toBytes());
-    write(path("dwg2dxf"), "#!/bin/sh\ncp \"$(dirname \"$0\")/made.dxf\" \"$3\"\n");
-    QFile::setPermissions(path("dwg2dxf"), QFile::ReadOwner | QFile::ExeOwner);
-    qputenv("PATH", QFile::encodeName(m_folder.path()) + ":/usr/bin:/bin");
+    const CKvDwgProgram program(path("made.dxf"));
+    CKvDwgProgram::writeDwg(path("plan.dwg"));
 
     const OdDbDatabasePtr drawing = CKvDrawingFile::open(path("plan.dwg"));
 
-    qputenv("PATH", pathBefore);
     EXPECT_EQ(drawing->getFilename().toQString(), path("plan.dwg"));
     EXPECT_EQ(CKvDrawingFile::toBytes(*drawing), m_builder.toBytes());
     EXPECT_EQ(refusal(drawing, path("plan.dwg")),
               "A DWG file can't be written. Save the drawing as DXF.");
-    EXPECT_EQ(bytesOf(path("plan.dwg")), "AC1032 by another program");
+    EXPECT_TRUE(CKvDwgProgram::isAsWritten(path("plan.dwg")));
+    QFile::remove(path("plan.dwg"));
+    EXPECT_EQ(refusal(drawing, path("plan.dwg")),
+              "A DWG file can't be written. Save the drawing as DXF.");
+    EXPECT_FALSE(QFile::exists(path("plan.dwg")));
     EXPECT_EQ(refusal(drawing, path("plan.dxf")), "");
     EXPECT_EQ(bytesOf(path("plan.dxf")), m_builder.toBytes());
+}
+
+TEST_F(FileForm, NoDrawingIsWrittenOverADwgFileOrUnderItsKindOfName)
+{
+    const std::string reason = "A DWG file can't be written. Save the drawing as DXF.";
+    write(path("plan.dxf"), m_builder.toBytes());
+    CKvDwgProgram::writeDwg(path("others.DWG"));
+    CKvDwgProgram::writeDwg(path("misnamed.dxf"));
+    const OdDbDatabasePtr drawing = CKvDrawingFile::open(path("plan.dxf"));
+
+    EXPECT_EQ(refusal(drawing, path("others.DWG")), reason);
+    EXPECT_EQ(refusal(drawing, path("misnamed.dxf")), reason);
+    EXPECT_EQ(refusal(drawing, path("new.dwg")), reason);
+
+    EXPECT_TRUE(CKvDwgProgram::isAsWritten(path("others.DWG")));
+    EXPECT_TRUE(CKvDwgProgram::isAsWritten(path("misnamed.dxf")));
+    EXPECT_FALSE(QFile::exists(path("new.dwg")));
+}
+
+TEST_F(FileForm, ADxfFileThatIsCalledDwgIsReadAndReplacedAsWhatItIs)
+{
+    write(path("plan.dwg"), m_builder.toBytes());
+    const OdDbDatabasePtr drawing = CKvDrawingFile::open(path("plan.dwg"));
+    paint(drawing, 6);
+
+    EXPECT_EQ(refusal(drawing, path("plan.dwg")), "");
+
+    EXPECT_EQ(bytesOf(path("plan.dwg")), painted(6));
 }
