@@ -17,6 +17,10 @@ namespace
 
 /// R13 and R14 know neither the flag of an xrecord (280) nor those of a dictionary (280, 281).
 constexpr int kFlagsVersion = 1015;
+/// What ends a text in one form of file or another.
+constexpr std::string_view kTextEnds("\0\n\r", 3);
+/// The largest group code that a binary file has room for.
+constexpr int kLargestBinaryCode = 0xffff;
 
 bool isOwnHandle(const CKvTag &tag, std::string_view type)
 {
@@ -46,7 +50,9 @@ std::string CKvObjectImporter::translatedText(const CKvObjectSlot &source,
         && std::all_of(value.begin(), value.end(), [](char c) {
                              return static_cast<unsigned char>(c) < 128;
                          });
-    if (isPlain || codecOf(source) == m_destination.format().codec) {
+    // A text of another form of file may hold what would end it in this one.
+    const bool hasEnd = value.find_first_of(kTextEnds) != std::string_view::npos;
+    if (!hasEnd && (isPlain || codecOf(source) == m_destination.format().codec)) {
         return std::string(value);
     }
     return m_destination.format().codec.encode(codecOf(source).decode(value));
@@ -82,6 +88,9 @@ void CKvObjectImporter::appendTranslated(std::string &bytes,
                                          const CKvTag &tag)
 {
     const CKvTagStyle &style = m_destination.format().style;
+    if (style.form != CKvTagForm::Ascii && (tag.code < 0 || tag.code > kLargestBinaryCode)) {
+        return;
+    }
     const CKvGroupValueType valueType = groupValueType(tag.code);
     if (valueType == CKvGroupValueType::Handle) {
         appendTag(
@@ -148,7 +157,7 @@ std::string CKvObjectImporter::translated(const CKvObjectSlot &source,
         const CKvTag &tag = reader.tag();
         if (tag.code == 0) {
             type = tag.word();
-            appendHead(bytes, type, handle, owner, extensionGroup);
+            appendHead(bytes, translatedText(source, type), handle, owner, extensionGroup);
             if (!hasSubclass) {
                 appendSubclasses(bytes, type);
             }
@@ -159,7 +168,7 @@ std::string CKvObjectImporter::translated(const CKvObjectSlot &source,
             continue;
         }
         if (tag.isWord(100, "AcDbXrecord")) {
-            appendTag(bytes, style, tag.code, tag.value);
+            appendTag(bytes, style, tag.code, tag.word());
             isXrecordData = true;
             skipNewerFlag(reader);
             continue;

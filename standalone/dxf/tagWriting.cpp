@@ -32,7 +32,37 @@ std::string decodedHex(std::string_view hex)
     return bytes;
 }
 
-std::string binaryValue(int code, std::string_view value)
+std::string binaryCode(CKvTagForm form, int code)
+{
+    std::string bytes;
+    if (form == CKvTagForm::BinaryShortCodes && code < 255) {
+        bytes.push_back(char(code));
+        return bytes;
+    }
+    if (form == CKvTagForm::BinaryShortCodes) {
+        bytes.push_back(char(255));
+    }
+    appendNumber(bytes, std::uint16_t(code));
+    return bytes;
+}
+
+/// Chunks of bytes, with the group code before all but the first one.
+std::string binaryChunks(CKvTagForm form, int code, std::string_view content)
+{
+    // Other programs read no longer ones.
+    constexpr std::size_t kMostInOne = 127;
+    std::string bytes;
+    do {
+        const std::string_view chunk = content.substr(0, kMostInOne);
+        bytes.push_back(char(chunk.size()));
+        bytes += chunk;
+        content.remove_prefix(chunk.size());
+        bytes += content.empty() ? std::string() : binaryCode(form, code);
+    } while (!content.empty());
+    return bytes;
+}
+
+std::string binaryValue(CKvTagForm form, int code, std::string_view value)
 {
     std::string bytes;
     switch (groupValueType(code)) {
@@ -51,12 +81,9 @@ std::string binaryValue(int code, std::string_view value)
     case CKvGroupValueType::Real:
         appendNumber(bytes, textTag(value).real());
         break;
-    case CKvGroupValueType::Bytes: {
-        const std::string content = decodedHex(value);
-        bytes.push_back(char(content.size()));
-        bytes += content;
+    case CKvGroupValueType::Bytes:
+        bytes = binaryChunks(form, code, decodedHex(value));
         break;
-    }
     case CKvGroupValueType::Text:
     case CKvGroupValueType::Handle:
         bytes.append(value);
@@ -66,24 +93,10 @@ std::string binaryValue(int code, std::string_view value)
     return bytes;
 }
 
-std::string binaryCode(CKvTagForm form, int code)
-{
-    std::string bytes;
-    if (form == CKvTagForm::BinaryShortCodes && code < 255) {
-        bytes.push_back(char(code));
-        return bytes;
-    }
-    if (form == CKvTagForm::BinaryShortCodes) {
-        bytes.push_back(char(255));
-    }
-    appendNumber(bytes, std::uint16_t(code));
-    return bytes;
-}
-
 std::string spelledTag(const CKvTagStyle &style, int code, std::string_view value)
 {
     if (style.form != CKvTagForm::Ascii) {
-        return binaryCode(style.form, code) + binaryValue(code, value);
+        return binaryCode(style.form, code) + binaryValue(style.form, code, value);
     }
     std::string text = std::to_string(code);
     if (style.isCodePadded && text.size() < 3) {
@@ -109,7 +122,8 @@ void insertTag(
 void replaceTagValue(std::string &bytes, const CKvTag &tag, std::string_view value)
 {
     if (tag.form != CKvTagForm::Ascii) {
-        bytes.replace(tag.valueBegin, tag.end - tag.valueBegin, binaryValue(tag.code, value));
+        bytes.replace(
+            tag.valueBegin, tag.end - tag.valueBegin, binaryValue(tag.form, tag.code, value));
         return;
     }
     // Out of the bytes as they are now: a change of a later tag may have moved them.
