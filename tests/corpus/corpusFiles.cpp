@@ -7,6 +7,7 @@
 #include <QStringList>
 
 #include <algorithm>
+#include <array>
 
 namespace
 {
@@ -16,14 +17,22 @@ QStringList folders()
     return { QStringLiteral(KV_SAMPLES_FOLDER), QStringLiteral(KV_SHARED_FOLDER) };
 }
 
+/// By its name; beside the drawings stand their descriptions and the programs that made them.
+bool isDrawing(const QString &path)
+{
+    static constexpr std::array<const char *, 4> kEnds = { ".dxf", ".dws", ".dwg", ".dxfb" };
+    return std::any_of(kEnds.begin(), kEnds.end(), [&](const char *end) {
+        return path.endsWith(QLatin1String(end), Qt::CaseInsensitive);
+    });
+}
+
 QStringList drawingsBelow(const QString &folder)
 {
     QStringList paths;
     QDirIterator files(folder, QDir::Files, QDirIterator::Subdirectories);
     while (files.hasNext()) {
         const QString path = files.next();
-        if (path.endsWith(QLatin1String(".dxf"), Qt::CaseInsensitive)
-            || path.endsWith(QLatin1String(".dws"), Qt::CaseInsensitive)) {
+        if (isDrawing(path)) {
             paths.append(path);
         }
     }

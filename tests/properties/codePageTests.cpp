@@ -40,7 +40,11 @@ const CodePageCase kCodePages[] = {
     { "ANSI_1361", "벽", "문" },
     { "DOS437", "Wände", "Türen" },
     { "DOS850", "Wände", "Türen" },
+    { "DOS852", "Ściany", "Dveře" },
     { "DOS866", "Стены", "Двери" },
+    { "DOS932", "壁", "ソース表" },
+    { "GB2312", "墙体", "门窗" },
+    { "BIG5", "牆", "功能" },
 };
 
 class CodePage : public testing::TestWithParam<CodePageCase>
