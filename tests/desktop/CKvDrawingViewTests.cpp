@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "CKvDrawingView.h"
 
+#include "CKvCommandEdit.h"
+#include "CKvCommandPanel.h"
 #include "CKvDesktopTest.h"
 #include "CKvHostDocument.h"
 #include "CKvMainWindow.h"
@@ -136,7 +138,8 @@ TEST_F(DrawingView, WhatIsTypedWhileItHasTheFocusGoesToTheCommandLine)
     QTest::keyClicks(&view(), text("Z"));
     QTest::keyClicks(window().focusWidget(), text("OOM\"\""));
 
-    EXPECT_NE(window().focusWidget(), &view());
+    EXPECT_EQ(window().focusWidget(), window().panel().edit());
+    EXPECT_EQ(window().panel().edit()->text(), text("ZOOM\"\""));
     EXPECT_EQ(view().scale(), scale);
 }
 
