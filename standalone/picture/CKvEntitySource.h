@@ -5,6 +5,7 @@
 
 #include <vector>
 
+class CKvDrawingStore;
 class CKvTextStyles;
 
 /// An entity to be drawn, with the vertices that belong to it and what it names.
@@ -13,4 +14,6 @@ struct CKvEntitySource {
     /// VERTEX entities; empty for entities that have none.
     const std::vector<const CKvObjectSlot *> &vertices;
     CKvTextStyles &textStyles;
+    /// The drawing that it is of.
+    CKvDrawingStore &store;
 };

@@ -76,6 +76,19 @@ QPointF CKvEntityTags::point(int code) const
     return { real(code), real(code + 10) };
 }
 
+std::vector<QPointF> CKvEntityTags::points(int code) const
+{
+    std::vector<QPointF> points;
+    for (const CKvTag &tag : m_tags) {
+        if (tag.code == code) {
+            points.emplace_back(real(tag), 0);
+        } else if (tag.code == code + 10 && !points.empty()) {
+            points.back().setY(real(tag));
+        }
+    }
+    return points;
+}
+
 QTransform CKvEntityTags::plane() const
 {
     return plane(find(38) ? real(38) : real(30));

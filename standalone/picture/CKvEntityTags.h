@@ -32,6 +32,8 @@ public:
     QString text(int code) const;
     /// The point whose x stands at this code and whose y ten codes higher.
     QPointF point(int code) const;
+    /// All points that stand so, in their order.
+    std::vector<QPointF> points(int code) const;
     bool hasFlag(int code, int flag) const { return (integer(code) & flag) != 0; }
 
     /// From the entity's own plane (210, 220, 230) to that of the drawing, as seen from above.

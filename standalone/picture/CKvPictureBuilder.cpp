@@ -137,7 +137,7 @@ bool CKvPictureBuilder::addEntity(std::size_t block,
     const std::vector<const CKvObjectSlot *> vertices = type->word() == "POLYLINE"
         ? verticesBehind(entities, at)
         : std::vector<const CKvObjectSlot *>();
-    read({ tags, vertices, m_textStyles }, sink);
+    read({ tags, vertices, m_textStyles, m_store }, sink);
     return true;
 }
 

@@ -31,6 +31,7 @@ constexpr KnownKind kKinds[] = {
     { "LEADER", &readLeader },
     { "MULTILEADER", &readMultiLeader },
     { "MLINE", &readMultiLine },
+    { "MESH", &readMesh },
     { "XLINE", &readRay },
     { "RAY", &readRay },
     { "IMAGE", &readImageFrame },

@@ -26,6 +26,7 @@ void readLwPolyline(const CKvEntitySource &source, CKvShapeSink &sink);
 void readPolyline(const CKvEntitySource &source, CKvShapeSink &sink);
 void readLeader(const CKvEntitySource &source, CKvShapeSink &sink);
 void readMultiLeader(const CKvEntitySource &source, CKvShapeSink &sink);
+void readMesh(const CKvEntitySource &source, CKvShapeSink &sink);
 void readMultiLine(const CKvEntitySource &source, CKvShapeSink &sink);
 
 // Texts.

@@ -14,6 +14,8 @@ constexpr int kByBlockIndex = 0;
 constexpr int kByLayerIndex = 256;
 constexpr int kWhite = 7;
 constexpr int kFrozen = 1;
+// Of a dash that carries a text (2) or a shape (4).
+constexpr int kTextOrShape = 6;
 
 CKvPictureColor colorOf(const CKvTag *index, const CKvTag *trueColor)
 {
@@ -64,6 +66,10 @@ CKvPictureLineStyle lineStyleRecord(const CKvObjectSlot &slot)
         if (tag.code == 49) {
             style.dashes.push_back(CKvEntityTags::real(tag));
             length += std::abs(style.dashes.back());
+        } else if (tag.code == 74 && (tag.integer() & kTextOrShape) != 0 && !style.dashes.empty()) {
+            // The letters or the shape themselves are not drawn. Without this, a line of nothing
+            // but shapes would not be seen at all.
+            style.dashes.back() = std::abs(style.dashes.back());
         }
     }
     if (!(length > 0)) {

@@ -1,12 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "CKvDrawingFormat.h"
 #include "CKvEntitySource.h"
 #include "CKvObjectSlot.h"
 #include "CKvShapeSink.h"
-#include "CKvTextStyles.h"
 #include "curvePoints.h"
 #include "entityShapes.h"
-#include "textLines.h"
 
 #include <algorithm>
 #include <cmath>
@@ -102,34 +99,6 @@ void drawFaces(const CKvEntitySource &source, CKvShapeSink &sink)
     }
 }
 
-std::vector<QPointF> pointsOf(const CKvEntityTags &tags, int code)
-{
-    std::vector<QPointF> points;
-    for (const CKvTag &tag : tags.tags()) {
-        if (tag.code == code) {
-            points.emplace_back(CKvEntityTags::real(tag), 0);
-        } else if (tag.code == code + 10 && !points.empty()) {
-            points.back().setY(CKvEntityTags::real(tag));
-        }
-    }
-    return points;
-}
-
-/// A slim triangle at the first point, along the first part of the line.
-void drawArrow(const std::vector<QPointF> &points, double size, CKvShapeSink &sink)
-{
-    if (points.size() < 2 || size <= 0) {
-        return;
-    }
-    const QPointF along = points[1] - points[0];
-    const double length = std::hypot(along.x(), along.y());
-    if (length > 0) {
-        const QPointF unit = along / length * size;
-        const QPointF side = QPointF(-unit.y(), unit.x()) / 6;
-        sink.area({ { points[0], points[0] + unit + side, points[0] + unit - side } });
-    }
-}
-
 } // namespace
 
 void readLwPolyline(const CKvEntitySource &source, CKvShapeSink &sink)
@@ -184,75 +153,38 @@ void readPolyline(const CKvEntitySource &source, CKvShapeSink &sink)
         vertices, source.tags.hasFlag(70, 1), isFlat ? source.tags.plane() : QTransform(), sink);
 }
 
-void readLeader(const CKvEntitySource &source, CKvShapeSink &sink)
+void readMesh(const CKvEntitySource &source, CKvShapeSink &sink)
 {
-    const std::vector<QPointF> points = pointsOf(source.tags, 10);
-    sink.path(source.tags.integer(72) == 1 ? smoothedPoints(points) : points);
-    if (source.tags.integer(71, 1) == 1 && points.size() > 1) {
-        const QPointF along = points[1] - points[0];
-        drawArrow(points, std::hypot(along.x(), along.y()) / 6, sink);
-    }
-}
-
-void readMultiLeader(const CKvEntitySource &source, CKvShapeSink &sink)
-{
-    // Its picture is in a list of its own: braces as texts, 302 a leader, 304 one of its lines.
-    enum class Part { Head, Leader, Line };
-    Part part = Part::Head;
-    QPointF place;
-    QPointF end;
-    QString text;
-    double height = 0;
-    double arrow = 0;
-    std::vector<std::vector<QPointF>> lines;
+    // Behind 93 stands a list of 90: for each face the number of its corners, then which they are.
+    const std::vector<QPointF> points = source.tags.points(10);
+    bool isInList = false;
+    std::int64_t cornersLeft = 0;
+    std::vector<QPointF> face;
     for (const CKvTag &tag : source.tags.tags()) {
-        const double number = CKvEntityTags::real(tag);
-        if (tag.code == 302 && part == Part::Head) {
-            part = Part::Leader;
-        } else if (tag.code == 304 && part == Part::Leader) {
-            part = Part::Line;
-            lines.emplace_back();
-        } else if (tag.code == 305) {
-            part = Part::Leader;
-            if (!lines.empty()) {
-                lines.back().push_back(end);
-            }
-        } else if (tag.code == 303 || tag.code == 301) {
-            part = Part::Head;
-        } else if (part == Part::Head && tag.code == 304) {
-            text = source.tags.slot().format().codec.decode(tag.value);
-        } else if (part == Part::Head && (tag.code == 12 || tag.code == 22)) {
-            (tag.code == 12 ? place.rx() : place.ry()) = number;
-        } else if (part == Part::Head && tag.code == 41 && height == 0) {
-            height = number;
-        } else if (part == Part::Head && tag.code == 140) {
-            arrow = number;
-        } else if (part == Part::Leader && (tag.code == 10 || tag.code == 20)) {
-            (tag.code == 10 ? end.rx() : end.ry()) = number;
-        } else if (part == Part::Line && tag.code == 10) {
-            lines.back().emplace_back(number, 0);
-        } else if (part == Part::Line && tag.code == 20 && !lines.back().empty()) {
-            lines.back().back().setY(number);
+        if (tag.code != 90) {
+            isInList = tag.code == 93;
+            continue;
         }
-    }
-    for (const std::vector<QPointF> &line : lines) {
-        sink.path(line);
-        drawArrow(line, arrow, sink);
-    }
-    if (!text.isEmpty() && height > 0) {
-        const CKvTextStyles::Style &style = source.textStyles.find("Standard");
-        CKvTextBlock block;
-        block.height = height;
-        block.placement = QTransform::fromTranslate(place.x(), place.y());
-        drawTextBlock(block, plainLines(text), style, sink);
+        const std::int64_t number = tag.integer();
+        if (isInList && cornersLeft <= 0) {
+            cornersLeft = number;
+            face.clear();
+        } else if (isInList) {
+            if (number >= 0 && std::size_t(number) < points.size()) {
+                face.push_back(points[std::size_t(number)]);
+            }
+            if (--cornersLeft == 0) {
+                sink.path(face, /*isClosed*/ true);
+            }
+        }
     }
 }
 
 void readMultiLine(const CKvEntitySource &source, CKvShapeSink &sink)
 {
     // The lines run beside the vertices, each at its distances (41) along the mitre (13).
-    std::vector<QPointF> vertices = pointsOf(source.tags, 11);
-    const std::vector<QPointF> mitres = pointsOf(source.tags, 13);
+    std::vector<QPointF> vertices = source.tags.points(11);
+    const std::vector<QPointF> mitres = source.tags.points(13);
     std::vector<std::vector<double>> distances;
     bool isElement = false;
     for (const CKvTag &tag : source.tags.tags()) {
