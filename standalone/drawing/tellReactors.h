@@ -10,7 +10,7 @@
 template <class Reactor, class Action>
 void tellReactors(const std::vector<Reactor *> &list, Action action)
 {
-    const std::vector<Reactor *> before = list;
+    const std::vector<Reactor *> before(list.begin(), list.end());
     for (Reactor *reactor : before) {
         if (std::find(list.begin(), list.end(), reactor) != list.end()) {
             action(*reactor);
