@@ -5,6 +5,8 @@
 
 #include <QFile>
 
+#include <utility>
+
 using ::testing::IsEmpty;
 
 namespace
@@ -72,7 +74,7 @@ protected:
 };
 
 /// Each of them changes a drawing that has layer 0, the styles Standard, and what is made first.
-const std::vector<std::pair<const char *, QByteArray>> kEdits = {
+constexpr std::pair<const char *, const char *> kEdits[] = {
     { "a new layer", "LAYER NEW A-NEW" },
     { "a layer's colour", "LAYER COLOR WALLS 5" },
     { "a layer's line style", "LAYER LTYPE WALLS ByLayer" },
@@ -111,7 +113,7 @@ const std::vector<std::pair<const char *, QByteArray>> kEdits = {
 TEST_F(UndoInDesk, EachEditingCommandIsOneStep)
 {
     for (const auto &[what, command] : kEdits) {
-        enter(QString::fromUtf8(command));
+        enter(command);
 
         expectOneStep(what);
     }
@@ -244,13 +246,15 @@ TEST_F(UndoInDesk, UndoingEverythingGivesTheBytesOnDiskHoweverMuchWasDone)
         dialog.accept();
     });
     int commands = 0;
-    for (const auto &edit : kEdits) {
+    for (const auto &[what, command] : kEdits) {
+        SCOPED_TRACE(what);
+        const QByteArray line(command);
         // What an edit before has taken away can't be edited again.
-        if (QByteArray(edit.second).contains("DELETE") || edit.second.startsWith("PURGE")
-            || edit.second.startsWith("RENAME") || edit.second == "ERASE ALL") {
+        if (line.contains("DELETE") || line.startsWith("PURGE") || line.startsWith("RENAME")
+            || line == "ERASE ALL") {
             continue;
         }
-        enter(QString::fromUtf8(edit.second));
+        enter(command);
         ++commands;
     }
     verifyAndFix();
