@@ -6,6 +6,7 @@
 #include "OdDbSymbolTableRecord.h"
 #include "impliedNames.h"
 #include "nameUses.h"
+#include "namingSettings.h"
 #include "objectTags.h"
 #include "recordNames.h"
 #include "rxConstruction.h"
@@ -92,6 +93,18 @@ void rewriteUses(CKvDrawingStore &store,
     }
 }
 
+/// The block itself stands apart from its record, and is all there is in drawings of R12 and older.
+void renameBlock(CKvObjectSlot &record, const QString &oldName, const std::string &newName)
+{
+    CKvObjectSlot *begin = record.store->entities().contentsOf(record).begin;
+    for (const int code : { 2, 3 }) {
+        const std::optional<CKvTag> name = begin ? findTag(*begin, code) : std::nullopt;
+        if (name && foldedName(record.format().codec.decode(name->value)) == foldedName(oldName)) {
+            replaceTagValue(begin->ownBytes(), *name, newName);
+        }
+    }
+}
+
 } // namespace
 
 OdRxClass *OdDbSymbolTableRecord::desc()
@@ -132,13 +145,20 @@ void OdDbSymbolTableRecord::setName(const OdString &name)
     CKvObjectAccess::beginChange(*this);
     // Users mean the first record of a name; a second one can go without them.
     const bool isTheOneMeant = table && table->find(oldName) == &slot;
+    const std::vector<CKvNamingSetting> settings = isTheOneMeant
+        ? settingsNaming(*slot.store, table->kind(), slot)
+        : std::vector<CKvNamingSetting>();
     const std::string encoded = slot.format().codec.encode(newName);
     setTag(slot, 2, encoded, { 100, 5, 0 });
     if (table) {
         table->nameChanged(slot, oldName);
     }
+    if (table && table->kind() == CKvTableKind::Block) {
+        renameBlock(slot, oldName, encoded);
+    }
     if (isTheOneMeant) {
         rewriteUses(*slot.store, table->kind(), oldName, encoded);
+        nameInSettings(*slot.store, settings, encoded);
     }
 }
 
