@@ -66,8 +66,12 @@ CKvDesktop::CKvDesktop(const CKvDesktopOptions &options)
     addFileCommands(*this);
     addViewCommands(*this);
     addSettingCommands(*this);
-    addRecordCommands(*this);
+    addLayerCommand(*this);
+    addLineStyleCommand(*this);
+    addTextStyleCommand(*this);
+    addDimStyleCommand(*this);
     addEditCommands(*this);
+    addEraseCommand(*this);
     addDrawCommands(*this);
     m_session.setApplicationFrame(m_window.get());
     m_session.setRequest(QStringLiteral("_DWGSTANDARDS"), [this](const OdResBufPtr &arguments) {

@@ -36,6 +36,14 @@ public:
     {
         m_picture.noteChange(*object);
     }
+    void objectUnAppended(const OdDbDatabase *, const OdDbObject *object) override
+    {
+        m_picture.noteChange(*object);
+    }
+    void objectReAppended(const OdDbDatabase *, const OdDbObject *object) override
+    {
+        m_picture.noteChange(*object);
+    }
     void objectModified(const OdDbDatabase *, const OdDbObject *object) override
     {
         m_picture.noteChange(*object);

@@ -2,42 +2,36 @@
 #include "CKvRecordsPanel.h"
 
 #include "CKvHostDocument.h"
-#include "OdDbLayerTableRecord.h"
-#include "OdDbLinetypeTableRecord.h"
-#include "aciColor.h"
-#include "pictureRecords.h"
+#include "askRecordChange.h"
+#include "recordChanges.h"
+#include "recordIcons.h"
 #include "takeWord.h"
 
+#include <QEvent>
 #include <QGridLayout>
 #include <QHeaderView>
 #include <QInputDialog>
-#include <QPixmap>
+#include <QMenu>
 #include <QPushButton>
+#include <QScrollBar>
+#include <QShortcut>
 #include <QTreeWidget>
 #include <QVBoxLayout>
+
+#include <algorithm>
+#include <array>
 
 namespace
 {
 
+enum Column { kNameColumn, kOnColumn, kFrozenColumn, kLockedColumn, kDetailsColumn, kSizeColumn };
 constexpr int kKindRole = Qt::UserRole;
-constexpr int kNameRole = Qt::UserRole + 1;
-constexpr int kIsOffRole = Qt::UserRole + 2;
-constexpr int kSwatch = 12;
-
-QIcon swatch(const OdCmColor &color)
-{
-    QPixmap pixmap(kSwatch, kSwatch);
-    pixmap.fill(color.isByColor() ? QColor(color.red(), color.green(), color.blue())
-                                  : QColor(aciColor(color.colorIndex())));
-    return QIcon(pixmap);
-}
-
-QPushButton *makeButton(const QString &text, const char *name)
-{
-    auto *button = new QPushButton(text);
-    button->setObjectName(QString::fromLatin1(name));
-    return button;
-}
+/// Index of the row; -1 for the title of a kind.
+constexpr int kRowRole = Qt::UserRole + 1;
+constexpr CKvRecordKind kKinds[] = { CKvRecordKind::Layer,
+                                     CKvRecordKind::LineStyle,
+                                     CKvRecordKind::TextStyle,
+                                     CKvRecordKind::DimStyle };
 
 /// The command that changes records of a kind.
 QString commandOf(CKvRecordKind kind)
@@ -62,44 +56,100 @@ QString wordOf(CKvRecordKind kind)
     return kind == CKvRecordKind::LineStyle ? QStringLiteral("LTYPE") : commandOf(kind);
 }
 
+/// With a place for the number of records.
+QString titleOf(CKvRecordKind kind)
+{
+    switch (kind) {
+    case CKvRecordKind::Layer:
+        return CKvRecordsPanel::tr("Layers (%1)");
+    case CKvRecordKind::LineStyle:
+        return CKvRecordsPanel::tr("Line styles (%1)");
+    case CKvRecordKind::TextStyle:
+        return CKvRecordsPanel::tr("Text styles (%1)");
+    case CKvRecordKind::DimStyle:
+    case CKvRecordKind::Block:
+        break;
+    }
+    return CKvRecordsPanel::tr("Dimension styles (%1)");
+}
+
 } // namespace
 
 CKvRecordsPanel::CKvRecordsPanel(QWidget *parent)
     : QWidget(parent)
     , m_list(new QTreeWidget(this))
-    , m_add(makeButton(tr("New…"), "AddRecordButton"))
-    , m_rename(makeButton(tr("Rename…"), "RenameRecordButton"))
-    , m_color(makeButton(tr("Colour…"), "ColorRecordButton"))
-    , m_switch(makeButton(tr("On/Off"), "SwitchRecordButton"))
-    , m_delete(makeButton(tr("Delete"), "DeleteRecordButton"))
+    , m_add(new QPushButton(tr("New…"), this))
+    , m_rename(new QPushButton(tr("Rename…"), this))
+    , m_delete(new QPushButton(tr("Delete"), this))
+    , m_change(new QPushButton(tr("Change"), this))
+    , m_changeMenu(new QMenu(this))
 {
-    m_list->setObjectName(QStringLiteral("Records"));
-    m_list->setAccessibleName(tr("Layers and styles of the drawing"));
-    m_list->setHeaderLabels({ tr("Name"), tr("Line style"), tr("Weight") });
-    m_list->setUniformRowHeights(true);
-    m_list->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    makeList();
+    makeButtons();
     auto *buttons = new QGridLayout;
-    int place = 0;
-    for (QPushButton *button : { m_add, m_rename, m_delete, m_color, m_switch }) {
-        buttons->addWidget(button, place / 3, place % 3);
-        ++place;
+    int column = 0;
+    for (QPushButton *button : { m_add, m_rename, m_delete, m_change }) {
+        buttons->addWidget(button, 0, column++);
     }
-    auto *column = new QVBoxLayout(this);
-    column->setContentsMargins(4, 4, 4, 4);
-    column->addWidget(m_list, 1);
-    column->addLayout(buttons);
+    auto *stack = new QVBoxLayout(this);
+    stack->setContentsMargins(4, 4, 4, 4);
+    stack->addWidget(m_list, 1);
+    stack->addLayout(buttons);
     m_timer.setSingleShot(true);
     connect(&m_timer, &QTimer::timeout, this, &CKvRecordsPanel::refresh);
-    connect(m_list, &QTreeWidget::currentItemChanged, this, &CKvRecordsPanel::updateButtons);
-    connect(m_add, &QPushButton::clicked, this, &CKvRecordsPanel::addRecord);
-    connect(m_rename, &QPushButton::clicked, this, &CKvRecordsPanel::renameRecord);
-    connect(m_color, &QPushButton::clicked, this, &CKvRecordsPanel::changeColor);
-    connect(m_switch, &QPushButton::clicked, this, &CKvRecordsPanel::switchLayer);
-    connect(m_delete, &QPushButton::clicked, this, &CKvRecordsPanel::deleteRecord);
     updateButtons();
 }
 
 CKvRecordsPanel::~CKvRecordsPanel() = default;
+
+void CKvRecordsPanel::makeList()
+{
+    m_list->setObjectName(QStringLiteral("Records"));
+    m_list->setAccessibleName(tr("Layers and styles of the drawing"));
+    m_list->setHeaderLabels(
+        { tr("Name"), tr("On"), tr("Fz"), tr("Lk"), tr("Line style, font"), tr("Size") });
+    m_list->headerItem()->setToolTip(kOnColumn, tr("On or off"));
+    m_list->headerItem()->setToolTip(kFrozenColumn, tr("Frozen"));
+    m_list->headerItem()->setToolTip(kLockedColumn, tr("Locked"));
+    m_list->headerItem()->setToolTip(kSizeColumn,
+                                     tr("Lineweight, length of the pattern, or height of texts"));
+    m_list->setUniformRowHeights(true);
+    m_list->setIndentation(12);
+    m_list->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    m_list->header()->setMinimumSectionSize(18);
+    m_list->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(m_list, &QTreeWidget::currentItemChanged, this, &CKvRecordsPanel::updateButtons);
+    connect(m_list, &QTreeWidget::itemClicked, this, [this](QTreeWidgetItem *item, int column) {
+        toggleAt(*item, column);
+    });
+    connect(m_list, &QTreeWidget::customContextMenuRequested, this, [this](QPoint place) {
+        if (chosenRow()) {
+            m_changeMenu->popup(m_list->viewport()->mapToGlobal(place));
+        }
+    });
+    const auto addKey = [this](Qt::Key key, void (CKvRecordsPanel::*action)()) {
+        auto *shortcut = new QShortcut(key, m_list);
+        shortcut->setContext(Qt::WidgetShortcut);
+        connect(shortcut, &QShortcut::activated, this, action);
+    };
+    addKey(Qt::Key_F2, &CKvRecordsPanel::renameRecord);
+    addKey(Qt::Key_Delete, &CKvRecordsPanel::deleteRecord);
+    addKey(Qt::Key_Insert, &CKvRecordsPanel::addRecord);
+}
+
+void CKvRecordsPanel::makeButtons()
+{
+    m_add->setObjectName(QStringLiteral("AddRecordButton"));
+    m_rename->setObjectName(QStringLiteral("RenameRecordButton"));
+    m_delete->setObjectName(QStringLiteral("DeleteRecordButton"));
+    m_change->setObjectName(QStringLiteral("ChangeRecordButton"));
+    m_changeMenu->setObjectName(QStringLiteral("ChangeRecordMenu"));
+    m_change->setMenu(m_changeMenu);
+    connect(m_add, &QPushButton::clicked, this, &CKvRecordsPanel::addRecord);
+    connect(m_rename, &QPushButton::clicked, this, &CKvRecordsPanel::renameRecord);
+    connect(m_delete, &QPushButton::clicked, this, &CKvRecordsPanel::deleteRecord);
+    connect(m_changeMenu, &QMenu::aboutToShow, this, &CKvRecordsPanel::fillChangeMenu);
+}
 
 void CKvRecordsPanel::setDocument(CKvHostDocument *document)
 {
@@ -112,80 +162,129 @@ void CKvRecordsPanel::refreshLater()
     m_timer.start(0);
 }
 
-QTreeWidgetItem *CKvRecordsPanel::addGroup(const QString &title, CKvRecordKind kind)
+void CKvRecordsPanel::changeEvent(QEvent *event)
 {
-    auto *group = new QTreeWidgetItem(m_list, { title });
-    group->setData(0, kKindRole, int(kind));
-    QFont font = group->font(0);
-    font.setBold(true);
-    group->setFont(0, font);
-    group->setFirstColumnSpanned(true);
-    return group;
+    QWidget::changeEvent(event);
+    // The icons have a rim in the colour of the text.
+    if (event->type() == QEvent::PaletteChange) {
+        showRows(std::vector<CKvRecordRow>(m_rows));
+    }
 }
 
 void CKvRecordsPanel::refresh()
 {
-    const QString name = chosenName();
-    const CKvRecordKind kind = chosenKind();
-    m_list->clear();
-    if (m_document) {
-        addLayers(*addGroup(tr("Layers"), CKvRecordKind::Layer));
-        addStyles(*addGroup(tr("Line styles"), CKvRecordKind::LineStyle), CKvRecordKind::LineStyle);
-        addStyles(*addGroup(tr("Text styles"), CKvRecordKind::TextStyle), CKvRecordKind::TextStyle);
-        addStyles(*addGroup(tr("Dimension styles"), CKvRecordKind::DimStyle),
-                  CKvRecordKind::DimStyle);
-        m_list->topLevelItem(0)->setExpanded(true);
+    std::vector<CKvRecordRow> rows =
+        m_document ? recordRows(*m_document) : std::vector<CKvRecordRow>();
+    // Most commands change no record; the list then keeps its place.
+    const bool isSame = m_list->topLevelItemCount() == (m_document ? int(std::size(kKinds)) : 0)
+        && std::equal(rows.begin(),
+                      rows.end(),
+                      m_rows.begin(),
+                      m_rows.end(),
+                      [](const CKvRecordRow &a, const CKvRecordRow &b) { return a.isSameAs(b); });
+    if (!isSame) {
+        showRows(std::move(rows));
     }
-    for (int i = 0; i < m_list->topLevelItemCount(); ++i) {
-        QTreeWidgetItem *group = m_list->topLevelItem(i);
-        for (int row = 0; row < group->childCount(); ++row) {
-            QTreeWidgetItem *item = group->child(row);
-            if (item->data(0, kKindRole).toInt() == int(kind)
-                && quoted(item->data(0, kNameRole).toString()) == name) {
-                m_list->setCurrentItem(item);
-            }
+}
+
+void CKvRecordsPanel::showRows(std::vector<CKvRecordRow> rows)
+{
+    const CKvRecordRow *chosen = chosenRow();
+    const OdDbObjectId id = chosen ? chosen->id : OdDbObjectId();
+    const CKvRecordKind kind = chosenKind();
+    m_rows = std::move(rows);
+    fill();
+    choose(kind, id);
+}
+
+void CKvRecordsPanel::choose(CKvRecordKind kind, OdDbObjectId id)
+{
+    for (QTreeWidgetItemIterator walk(m_list); *walk; ++walk) {
+        const int row = (*walk)->data(0, kRowRole).toInt();
+        // The title of the kind stands for a record that is gone.
+        const bool isTitle = row < 0 && (*walk)->data(0, kKindRole).toInt() == int(kind);
+        if (isTitle || (row >= 0 && !id.isNull() && m_rows[std::size_t(row)].id == id)) {
+            m_list->setCurrentItem(*walk);
         }
     }
     updateButtons();
 }
 
-void CKvRecordsPanel::addLayers(QTreeWidgetItem &group)
+void CKvRecordsPanel::fill()
 {
-    const OdDbSymbolTablePtr table = openTable(*m_document, CKvRecordKind::Layer);
-    for (OdDbSymbolTableIteratorPtr walk = table->newIterator(); !walk->done(); walk->step()) {
-        const OdDbLayerTableRecordPtr layer(walk->getRecord());
-        const CKvPictureLayer state = layerRecord(*walk->getRecordId().slot());
-        const QString name = layer->getName().toQString();
-        const OdDbLinetypeTableRecordPtr style(layer->linetypeObjectId().openObject());
-        auto *item = new QTreeWidgetItem(&group);
-        item->setText(0, state.isVisible() ? name : tr("%1 (off)").arg(name));
-        item->setIcon(0, swatch(layer->color()));
-        item->setText(1, style ? style->getName().toQString() : QString());
-        const int weight = layer->lineWeight();
-        item->setText(2, weight >= 0 ? QString::number(weight / 100.0, 'f', 2) : tr("Default"));
-        item->setToolTip(0, layer->color().colorNameForDisplay().toQString());
-        item->setData(0, kKindRole, int(CKvRecordKind::Layer));
-        item->setData(0, kNameRole, name);
-        item->setData(0, kIsOffRole, state.isOff);
+    std::array<bool, std::size(kKinds)> isExpanded = { true };
+    for (int i = 0; i < m_list->topLevelItemCount(); ++i) {
+        isExpanded[std::size_t(i)] = m_list->topLevelItem(i)->isExpanded();
+    }
+    const int scrolled = m_list->verticalScrollBar()->value();
+    const QSignalBlocker quiet(m_list);
+    m_list->clear();
+    for (std::size_t i = 0; m_document && i < std::size(kKinds); ++i) {
+        auto *group = new QTreeWidgetItem(m_list);
+        group->setData(0, kKindRole, int(kKinds[i]));
+        group->setData(0, kRowRole, -1);
+        for (std::size_t row = 0; row < m_rows.size(); ++row) {
+            if (m_rows[row].kind == kKinds[i]) {
+                addRow(*group, row);
+            }
+        }
+        group->setText(0, titleOf(kKinds[i]).arg(group->childCount()));
+        group->setFirstColumnSpanned(true);
+        group->setExpanded(isExpanded[i]);
+    }
+    m_list->verticalScrollBar()->setValue(scrolled);
+}
+
+void CKvRecordsPanel::addRow(QTreeWidgetItem &group, std::size_t index)
+{
+    const CKvRecordRow &row = m_rows[index];
+    auto *item = new QTreeWidgetItem(&group);
+    item->setData(0, kKindRole, int(row.kind));
+    item->setData(0, kRowRole, int(index));
+    item->setText(kNameColumn, row.name);
+    item->setText(kDetailsColumn, row.details);
+    item->setText(kSizeColumn, row.size);
+    item->setTextAlignment(kSizeColumn, Qt::AlignRight | Qt::AlignVCenter);
+    if (row.isCurrent) {
+        QFont font = item->font(kNameColumn);
+        font.setBold(true);
+        item->setFont(kNameColumn, font);
+        item->setToolTip(kNameColumn, tr("The current one"));
+    }
+    if (row.kind == CKvRecordKind::Layer) {
+        showState(*item, row);
     }
 }
 
-void CKvRecordsPanel::addStyles(QTreeWidgetItem &group, CKvRecordKind kind)
+void CKvRecordsPanel::showState(QTreeWidgetItem &item, const CKvRecordRow &row)
 {
-    const OdDbSymbolTablePtr table = openTable(*m_document, kind);
-    for (OdDbSymbolTableIteratorPtr walk = table->newIterator(); !walk->done(); walk->step()) {
-        const QString name = walk->getRecord()->getName().toQString();
-        auto *item = new QTreeWidgetItem(&group, { name });
-        item->setData(0, kKindRole, int(kind));
-        item->setData(0, kNameRole, name);
-    }
+    const QColor rim = palette().color(QPalette::Disabled, QPalette::Text);
+    item.setIcon(kNameColumn, colorSwatch(row.color, palette().color(QPalette::Text)));
+    item.setToolTip(kNameColumn,
+                    row.isCurrent ? tr("Colour %1, the current layer").arg(row.colorName)
+                                  : tr("Colour %1").arg(row.colorName));
+    const auto show = [&](Column column, CKvLayerMark mark, bool isOn, const QString &word) {
+        item.setIcon(column, layerMark(mark, isOn, rim));
+        item.setToolTip(column, word);
+        item.setData(column, Qt::AccessibleTextRole, word);
+    };
+    const CKvLayerState &state = row.state;
+    show(kOnColumn, CKvLayerMark::On, !state.isOff, state.isOff ? tr("off") : tr("on"));
+    show(kFrozenColumn,
+         CKvLayerMark::Frozen,
+         state.isFrozen,
+         state.isFrozen ? tr("frozen") : tr("not frozen"));
+    show(kLockedColumn,
+         CKvLayerMark::Locked,
+         state.isLocked,
+         state.isLocked ? tr("locked") : tr("not locked"));
 }
 
-QString CKvRecordsPanel::chosenName() const
+const CKvRecordRow *CKvRecordsPanel::chosenRow() const
 {
     const QTreeWidgetItem *item = m_list->currentItem();
-    const QString name = item ? item->data(0, kNameRole).toString() : QString();
-    return name.isEmpty() ? QString() : quoted(name);
+    const int row = item ? item->data(0, kRowRole).toInt() : -1;
+    return row < 0 ? nullptr : &m_rows[std::size_t(row)];
 }
 
 CKvRecordKind CKvRecordsPanel::chosenKind() const
@@ -196,59 +295,110 @@ CKvRecordKind CKvRecordsPanel::chosenKind() const
 
 void CKvRecordsPanel::updateButtons()
 {
-    const bool isChosen = !chosenName().isEmpty();
-    const bool isLayer = isChosen && chosenKind() == CKvRecordKind::Layer;
+    const bool isChosen = chosenRow() != nullptr;
     m_add->setEnabled(m_document != nullptr);
     m_rename->setEnabled(isChosen);
     m_delete->setEnabled(isChosen);
-    m_color->setEnabled(isLayer);
-    m_switch->setEnabled(isLayer);
+    m_change->setEnabled(isChosen);
 }
 
-void CKvRecordsPanel::want(const QStringList &words)
+void CKvRecordsPanel::fillChangeMenu()
 {
-    emit commandWanted(words.join(QLatin1Char(' ')));
+    m_changeMenu->clear();
+    const CKvRecordRow *row = chosenRow();
+    if (!row) {
+        return;
+    }
+    const OdDbSymbolTableRecordPtr record(row->id.openObject());
+    for (const CKvRecordChange &one : CKvRecordChanges()) {
+        if (one.kind != row->kind) {
+            continue;
+        }
+        QAction *action = m_changeMenu->addAction(tr(one.label));
+        action->setObjectName(QString(QLatin1String(one.option) + QLatin1String("Change")));
+        if (one.asks == CKvRecordChange::Asks::Flag) {
+            action->setCheckable(true);
+            action->setChecked(isSet(one, *record));
+        }
+        connect(action, &QAction::triggered, this, [this, &one] { change(one); });
+    }
+}
+
+void CKvRecordsPanel::change(const CKvRecordChange &change)
+{
+    if (!chosenRow()) {
+        return;
+    }
+    // While the dialog is up the list may be filled anew.
+    const CKvRecordRow row = *chosenRow();
+    const std::optional<QStringList> words = askRecordChange(this, *m_document, change, row);
+    if (words) {
+        want(commandOf(row.kind), *words);
+    }
+}
+
+void CKvRecordsPanel::toggleAt(const QTreeWidgetItem &item, int column)
+{
+    const int index = item.data(0, kRowRole).toInt();
+    if (index < 0 || m_rows[std::size_t(index)].kind != CKvRecordKind::Layer) {
+        return;
+    }
+    const CKvRecordRow &row = m_rows[std::size_t(index)];
+    const char *option = nullptr;
+    if (column == kOnColumn) {
+        option = row.state.isOff ? "ON" : "OFF";
+    } else if (column == kFrozenColumn) {
+        option = row.state.isFrozen ? "THAW" : "FREEZE";
+    } else if (column == kLockedColumn) {
+        option = row.state.isLocked ? "UNLOCK" : "LOCK";
+    }
+    if (option) {
+        want(commandOf(row.kind), { QLatin1String(option), quoted(row.name) });
+    }
+}
+
+void CKvRecordsPanel::want(const QString &command, const QStringList &words)
+{
+    emit commandWanted(QString(command + QLatin1Char(' ') + words.join(QLatin1Char(' '))));
 }
 
 void CKvRecordsPanel::addRecord()
 {
-    const QString name = QInputDialog::getText(this, tr("New"), tr("Name:"));
+    if (!m_document) {
+        return;
+    }
+    const CKvRecordKind kind = chosenKind();
+    if (kind == CKvRecordKind::LineStyle) {
+        const std::optional<QStringList> words = askNewLineStyle(this, *m_document);
+        if (words) {
+            want(commandOf(kind), *words);
+        }
+        return;
+    }
+    const QString name = QInputDialog::getText(this, tr("New"), tr("Name:")).trimmed();
     if (!name.isEmpty()) {
-        const bool isLineStyle = chosenKind() == CKvRecordKind::LineStyle;
-        want({ commandOf(chosenKind()),
-               isLineStyle ? QStringLiteral("LOAD") : QStringLiteral("NEW"),
-               quoted(name) });
+        want(commandOf(kind), { QStringLiteral("NEW"), quoted(name) });
     }
 }
 
 void CKvRecordsPanel::renameRecord()
 {
-    const QString old = chosenName();
-    const QString name = QInputDialog::getText(
-        this, tr("Rename"), tr("New name:"), QLineEdit::Normal, unquoted(old));
-    if (!name.isEmpty() && quoted(name) != old) {
-        want({ QStringLiteral("RENAME"), wordOf(chosenKind()), old, quoted(name) });
+    const CKvRecordRow *row = chosenRow();
+    if (!row) {
+        return;
+    }
+    const CKvRecordKind kind = row->kind;
+    const QString old = row->name;
+    const QString name =
+        QInputDialog::getText(this, tr("Rename"), tr("New name:"), QLineEdit::Normal, old);
+    if (!name.isEmpty() && name != old) {
+        want(QStringLiteral("RENAME"), { wordOf(kind), quoted(old), quoted(name) });
     }
 }
 
 void CKvRecordsPanel::deleteRecord()
 {
-    want({ commandOf(chosenKind()), QStringLiteral("DELETE"), chosenName() });
-}
-
-void CKvRecordsPanel::changeColor()
-{
-    const QString color =
-        QInputDialog::getText(this, tr("Colour"), tr("1 to 255, red to white, or R,G,B:"));
-    if (!color.isEmpty()) {
-        want({ QStringLiteral("LAYER"), QStringLiteral("COLOR"), chosenName(), quoted(color) });
+    if (const CKvRecordRow *row = chosenRow()) {
+        want(commandOf(row->kind), { QStringLiteral("DELETE"), quoted(row->name) });
     }
-}
-
-void CKvRecordsPanel::switchLayer()
-{
-    const bool isOff = m_list->currentItem()->data(0, kIsOffRole).toBool();
-    want({ QStringLiteral("LAYER"),
-           isOff ? QStringLiteral("ON") : QStringLiteral("OFF"),
-           chosenName() });
 }

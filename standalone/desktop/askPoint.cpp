@@ -9,20 +9,6 @@
 
 #include <cmath>
 
-namespace
-{
-
-/// Tells what is wrong with an answer. A script can't be asked again.
-void refuse(CKvDesktop &desktop, const QString &message)
-{
-    desktop.commandLine().print(message);
-    if (desktop.commandLine().hasAnswer()) {
-        throw CKvCommandCancelled();
-    }
-}
-
-} // namespace
-
 std::optional<QPointF> pointFromText(const QString &text)
 {
     const QStringList parts = text.trimmed().split(QLatin1Char(','));
@@ -42,18 +28,30 @@ QString pointToText(QPointF point)
                                        QString::number(point.y(), 'g', 12));
 }
 
+void refuseAnswer(CKvDesktop &desktop, const QString &message)
+{
+    desktop.commandLine().print(message);
+    if (desktop.commandLine().hasAnswer()) {
+        throw CKvCommandCancelled();
+    }
+}
+
+CKvPointOrWord askPointOrWord(CKvDesktop &desktop, const QString &prompt)
+{
+    desktop.window().setPicksPoints(true);
+    const QString answer = desktop.commandLine().ask(prompt);
+    return { pointFromText(answer), answer };
+}
+
 std::optional<QPointF> askPointOrEnd(CKvDesktop &desktop, const QString &prompt)
 {
     for (;;) {
-        desktop.window().setPicksPoints(true);
-        const QString answer = desktop.commandLine().ask(prompt);
-        if (answer.isEmpty()) {
-            return std::nullopt;
+        const CKvPointOrWord answer = askPointOrWord(desktop, prompt);
+        if (answer.point || answer.word.isEmpty()) {
+            return answer.point;
         }
-        if (const std::optional<QPointF> point = pointFromText(answer)) {
-            return point;
-        }
-        refuse(desktop, CKvMainWindow::tr("\"%1\" is no point; a point is x,y.").arg(answer));
+        refuseAnswer(desktop,
+                     CKvMainWindow::tr("\"%1\" is no point; a point is x,y.").arg(answer.word));
     }
 }
 
@@ -63,7 +61,7 @@ QPointF askPoint(CKvDesktop &desktop, const QString &prompt)
         if (const std::optional<QPointF> point = askPointOrEnd(desktop, prompt)) {
             return *point;
         }
-        refuse(desktop, CKvMainWindow::tr("A point is needed."));
+        refuseAnswer(desktop, CKvMainWindow::tr("A point is needed."));
     }
 }
 
@@ -76,6 +74,6 @@ double askLength(CKvDesktop &desktop, const QString &prompt)
         if (isNumber && length > 0 && std::isfinite(length)) {
             return length;
         }
-        refuse(desktop, CKvMainWindow::tr("\"%1\" is no number above 0.").arg(answer));
+        refuseAnswer(desktop, CKvMainWindow::tr("\"%1\" is no number above 0.").arg(answer));
     }
 }

@@ -20,5 +20,15 @@ QString pointToText(QPointF point);
 QPointF askPoint(CKvDesktop &desktop, const QString &prompt);
 /// As askPoint, but a bare Enter gives none.
 std::optional<QPointF> askPointOrEnd(CKvDesktop &desktop, const QString &prompt);
+/// A point, or another word that was given in its place; an empty one for a bare Enter.
+struct CKvPointOrWord {
+    std::optional<QPointF> point;
+    QString word;
+};
+/// Asks once, for a point or an option of the command.
+CKvPointOrWord askPointOrWord(CKvDesktop &desktop, const QString &prompt);
+/// Tells what is wrong with an answer, so that the command can ask again.
+/// @throws CKvCommandCancelled in a script, which can't be asked again.
+void refuseAnswer(CKvDesktop &desktop, const QString &message);
 /// Asks for a number above 0.
 double askLength(CKvDesktop &desktop, const QString &prompt);

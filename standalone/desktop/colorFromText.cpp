@@ -45,3 +45,15 @@ OdCmColor colorFromText(const QString &text)
     }
     return OdCmColor::byColor(components[0], components[1], components[2], kIndexOfTrueColor);
 }
+
+OdCmColor entityColorFromText(const QString &text)
+{
+    constexpr int kByBlock = 0;
+    if (text.compare(QLatin1String("ByLayer"), Qt::CaseInsensitive) == 0) {
+        return OdCmColor();
+    }
+    if (text.compare(QLatin1String("ByBlock"), Qt::CaseInsensitive) == 0) {
+        return OdCmColor::byIndex(kByBlock);
+    }
+    return colorFromText(text);
+}

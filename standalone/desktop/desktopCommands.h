@@ -9,9 +9,17 @@ void addFileCommands(CKvDesktop &desktop);
 void addViewCommands(CKvDesktop &desktop);
 /// SETVAR, DWGSTANDARDS.
 void addSettingCommands(CKvDesktop &desktop);
-/// LAYER, LINETYPE, STYLE, DIMSTYLE.
-void addRecordCommands(CKvDesktop &desktop);
-/// UNDO, REDO, REDON, ERASE, RENAME, PURGE.
+/// LAYER.
+void addLayerCommand(CKvDesktop &desktop);
+/// LINETYPE.
+void addLineStyleCommand(CKvDesktop &desktop);
+/// STYLE.
+void addTextStyleCommand(CKvDesktop &desktop);
+/// DIMSTYLE.
+void addDimStyleCommand(CKvDesktop &desktop);
+/// ERASE.
+void addEraseCommand(CKvDesktop &desktop);
+/// UNDO, REDO, REDON, RENAME, PURGE.
 void addEditCommands(CKvDesktop &desktop);
 /// LINE, CIRCLE, TEXT, INSERTBLOCK.
 void addDrawCommands(CKvDesktop &desktop);

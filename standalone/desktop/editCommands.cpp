@@ -2,8 +2,7 @@
 #include "CKvDesktop.h"
 #include "CKvHostDocument.h"
 #include "CKvMainWindow.h"
-#include "OdDbBlockTableRecord.h"
-#include "OdDbEntity.h"
+#include "OdDbSymbolTableRecord.h"
 #include "OdError.h"
 #include "desktopCommands.h"
 #include "recordTables.h"
@@ -72,54 +71,6 @@ bool redoMany(CKvDesktop &desktop)
     return bringAgain(desktop, askCount(desktop));
 }
 
-std::vector<OdDbObjectId> entitiesOfModelSpace(const CKvHostDocument &document)
-{
-    std::vector<OdDbObjectId> ids;
-    const OdDbBlockTableRecordPtr space(requireRecord(
-        document, CKvRecordKind::Block, QStringLiteral("*Model_Space"), OdDb::kForRead));
-    for (OdDbObjectIteratorPtr walk = space->newIterator(); !walk->done(); walk->step()) {
-        ids.push_back(walk->objectId());
-    }
-    return ids;
-}
-
-std::vector<OdDbObjectId> askEntities(CKvDesktop &desktop)
-{
-    const CKvHostDocument &document = desktop.requireDocument();
-    const OdDbObjectIdArray selected = document.selectionSet()->selectedObjectIds();
-    if (!selected.isEmpty() && !desktop.commandLine().hasAnswer()) {
-        return { selected.begin(), selected.end() };
-    }
-    const QString word = desktop.commandLine().ask(CKvMainWindow::tr("[Last/All] or a handle:"));
-    std::vector<OdDbObjectId> all = entitiesOfModelSpace(document);
-    if (word.compare(QLatin1String("ALL"), Qt::CaseInsensitive) == 0) {
-        return all;
-    }
-    if (word.compare(QLatin1String("LAST"), Qt::CaseInsensitive) == 0) {
-        return all.empty() ? all : std::vector<OdDbObjectId> { all.back() };
-    }
-    bool isHandle = false;
-    const OdDbObjectId id =
-        document.GetKvDatabase()->getOdDbObjectId(OdDbHandle(word.toULongLong(&isHandle, 16)));
-    const OdDbObjectPtr object = id.openObject();
-    if (!isHandle || !object || !object->isKindOf(OdDbEntity::desc())) {
-        throw OdError(OdResult::kInvalidInput,
-                      "There is no entity \"" + word.toStdString() + "\".");
-    }
-    return { id };
-}
-
-bool eraseEntities(CKvDesktop &desktop)
-{
-    const std::vector<OdDbObjectId> ids = askEntities(desktop);
-    desktop.requireDocument().selectionSet()->clearSelection();
-    for (const OdDbObjectId id : ids) {
-        id.openObject(OdDb::kForWrite)->erase();
-    }
-    desktop.commandLine().print(CKvMainWindow::tr("%n entities erased.", nullptr, int(ids.size())));
-    return true;
-}
-
 CKvRecordKind askKind(CKvDesktop &desktop, const QString &prompt)
 {
     const QString word = desktop.commandLine().ask(prompt);
@@ -136,8 +87,13 @@ bool renameRecord(CKvDesktop &desktop)
     const CKvRecordKind kind =
         askKind(desktop, CKvMainWindow::tr("[Layer/LType/Style/Dimstyle/Block]:"));
     const OdDbSymbolTableRecordPtr record =
-        askRecord(desktop, kind, CKvMainWindow::tr("Old name:"), OdDb::kForWrite);
-    record->setName(OdString(desktop.commandLine().ask(CKvMainWindow::tr("New name:"))));
+        askRecord(desktop, kind, CKvMainWindow::tr("Old name:"), OdDb::kForRead);
+    if (record->getName().toQString().startsWith(QLatin1Char('*'))) {
+        throw OdError(OdResult::kInvalidInput, "What the host has named can't be renamed.");
+    }
+    const QString name = desktop.commandLine().ask(CKvMainWindow::tr("New name:"));
+    record->upgradeOpen();
+    record->setName(OdString(name));
     return true;
 }
 
@@ -186,7 +142,6 @@ void addEditCommands(CKvDesktop &desktop)
     desktop.addCommand("UNDO", &undo);
     desktop.addCommand("REDO", &redo);
     desktop.addCommand("REDON", &redoMany);
-    desktop.addCommand("ERASE", &eraseEntities);
     desktop.addCommand("RENAME", &renameRecord);
     desktop.addCommand("PURGE", &purgeRecords);
 }

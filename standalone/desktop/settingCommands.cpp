@@ -6,12 +6,45 @@
 #include "OdError.h"
 #include "desktopCommands.h"
 #include "hostVariables.h"
+#include "recordTables.h"
 #include "showStandardsSettings.h"
 
 namespace
 {
 
 constexpr int kFilesPage = 1;
+
+/// What the file says about itself; another value would make it unreadable.
+constexpr const char *kReadOnly[] = {
+    "ACADVER", "ACADMAINTVER", "DWGCODEPAGE", "HANDLING", "HANDSEED"
+};
+
+/// Variables whose value is the name of a record.
+struct CKvNamingVariable {
+    const char *name;
+    CKvRecordKind kind;
+};
+constexpr CKvNamingVariable kNaming[] = { { "CLAYER", CKvRecordKind::Layer },
+                                          { "CELTYPE", CKvRecordKind::LineStyle },
+                                          { "TEXTSTYLE", CKvRecordKind::TextStyle },
+                                          { "DIMSTYLE", CKvRecordKind::DimStyle } };
+
+/// @throws OdError for a variable that nobody may set, and for a name that the drawing lacks.
+void requireSettable(const CKvHostDocument &document, const QString &name, const QString &value)
+{
+    for (const char *readOnly : kReadOnly) {
+        if (name == QLatin1String(readOnly)) {
+            throw OdError(OdResult::kInvalidInput, name.toStdString() + " can't be changed.");
+        }
+    }
+    for (const CKvNamingVariable &naming : kNaming) {
+        // ByLayer and ByBlock are there whether or not the file has records for them.
+        if (name == QLatin1String(naming.name)
+            && !value.startsWith(QLatin1String("By"), Qt::CaseInsensitive)) {
+            requireRecord(document, naming.kind, value, OdDb::kForRead);
+        }
+    }
+}
 
 QString valueText(const OdResBuf &value)
 {
@@ -77,6 +110,7 @@ bool setVariable(CKvDesktop &desktop)
         return true;
     }
     CKvHostDocument &document = desktop.requireDocument();
+    requireSettable(document, name, value);
     CKvDrawingStore &store = document.GetKvDatabase()->store();
     const std::string text = store.format().codec.encode(checkedText(name, *present, value));
     store.header().set("$" + name.toStdString(), text);

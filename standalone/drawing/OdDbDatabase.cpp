@@ -187,10 +187,8 @@ OdResBufPtr OdDbDatabase::getSysVar(const OdString &name) const
 void OdDbDatabase::loadLineTypeFile(const OdString &name, const OdString &path, int, int)
 {
     const CKvLineTypeDefinition definition = readLineTypeFile(path.toQString(), name.toQString());
-    OdDbLinetypeTableRecordPtr record = OdDbLinetypeTableRecord::createObject();
-    *CKvObjectAccess::slotOf(*record)->own = lineTypeTags(*m_store, definition);
     const OdDbLinetypeTablePtr table(getLinetypeTableId().openObject(OdDb::kForWrite));
-    table->add(record);
+    table->add(newLineType(*m_store, definition));
 }
 
 void OdDbDatabase::wblockCloneObjects(const OdDbObjectIdArray &ids,

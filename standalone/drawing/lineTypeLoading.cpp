@@ -2,6 +2,7 @@
 #include "lineTypeLoading.h"
 
 #include "CKvDrawingStore.h"
+#include "CKvObjectAccess.h"
 #include "extensionDictionary.h"
 
 #include <cmath>
@@ -78,4 +79,12 @@ std::string lineTypeTags(CKvDrawingStore &store, const CKvLineTypeDefinition &de
         }
     }
     return tags;
+}
+
+OdDbLinetypeTableRecordPtr newLineType(CKvDrawingStore &store,
+                                       const CKvLineTypeDefinition &definition)
+{
+    OdDbLinetypeTableRecordPtr record = OdDbLinetypeTableRecord::createObject();
+    *CKvObjectAccess::slotOf(*record)->own = lineTypeTags(store, definition);
+    return record;
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "CKvLineTypeDefinition.h"
+#include "OdDbLinetypeTableRecord.h"
 
 #include <string>
 
@@ -11,3 +12,7 @@ class CKvDrawingStore;
 /// @throws OdError (kDefinitionUnreadable) for a text whose style the drawing lacks, and for a
 /// shape, whose number stands in a font file that is not read.
 std::string lineTypeTags(CKvDrawingStore &store, const CKvLineTypeDefinition &definition);
+/// A new line style as a definition tells it, in no drawing yet.
+/// @param store the drawing that it is for. @throws OdError as lineTypeTags.
+OdDbLinetypeTableRecordPtr newLineType(CKvDrawingStore &store,
+                                       const CKvLineTypeDefinition &definition);

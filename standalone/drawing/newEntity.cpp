@@ -27,6 +27,9 @@ CKvObjectSlot &addToModelSpace(CKvDrawingStore &store, const CKvNewEntity &entit
         appendTag(bytes, style, 100, "AcDbEntity");
     }
     appendTag(bytes, style, 8, entity.layer);
+    for (const auto &[code, value] : entity.commonGroups) {
+        appendTag(bytes, style, code, value);
+    }
     if (hasSubclasses) {
         appendTag(bytes, style, 100, entity.subclass);
     }

@@ -20,6 +20,8 @@ struct CKvNewEntity {
     std::string layer;
     /// Groups of the entity's own part, values as an ASCII file has them.
     std::vector<std::pair<int, std::string>> groups;
+    /// Groups behind the layer, in the part that all entities have: line style, colour, lineweight.
+    std::vector<std::pair<int, std::string>> commonGroups = {};
 };
 
 /// Puts an entity behind all others of model space; reactors hear of it.

@@ -240,3 +240,25 @@ CKvLineTypeDefinition readLineTypeFile(const QString &path, const QString &name)
     throw OdError(OdResult::kUndefinedLineType,
                   QStringLiteral("%1 has no line style %2.").arg(path, name).toStdString());
 }
+
+QStringList lineTypeNames(const QString &path)
+{
+    QStringList names;
+    for (const QString &line : linesOf(openFile(path)->bytes())) {
+        QString name;
+        QString description;
+        if (readHeading(line.trimmed(), name, description) && !name.isEmpty()
+            && !names.contains(name, Qt::CaseInsensitive)) {
+            names << name;
+        }
+    }
+    return names;
+}
+
+std::vector<Element> readLineTypePattern(const QString &pattern)
+{
+    const QString definition = pattern.trimmed();
+    const bool hasAlignment = definition.startsWith(QLatin1Char('A'), Qt::CaseInsensitive);
+    return readElements(hasAlignment ? definition : QString(QLatin1String("A,") + definition),
+                        { QString(), 0 });
+}

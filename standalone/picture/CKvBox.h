@@ -38,6 +38,11 @@ struct CKvBox {
         return left <= other.right && other.left <= right && bottom <= other.top
             && other.bottom <= top;
     }
+    bool contains(const CKvBox &other) const
+    {
+        return left <= other.left && other.right <= right && bottom <= other.bottom
+            && other.top <= top;
+    }
     CKvBox grownBy(double margin) const
     {
         return { left - margin, bottom - margin, right + margin, top + margin };

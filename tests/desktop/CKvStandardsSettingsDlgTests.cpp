@@ -176,6 +176,25 @@ TEST_F(StandardsSettings, AnyNotificationButZeroStays)
     EXPECT_EQ(session().settings().standardsViolation(), 1);
 }
 
+TEST_F(StandardsSettings, NotificationAndItsVariableAreOneSetting)
+{
+    openWith({});
+    EXPECT_TRUE(child<QCheckBox>(dialog(3), "Notify")->isChecked());
+
+    enter("SETVAR STANDARDSVIOLATION 0");
+    CKvStandardsSettingsDlg &off = dialog(3);
+    EXPECT_FALSE(child<QCheckBox>(off, "Notify")->isChecked());
+    child<QCheckBox>(off, "Notify")->setChecked(true);
+    off.accept();
+
+    EXPECT_EQ(session().settings().standardsViolation(), 2);
+    enter("SETVAR STANDARDSVIOLATION \"\"");
+    enter("SETVAR STANDARDSVIOLATION 1");
+    EXPECT_TRUE(child<QCheckBox>(dialog(3), "Notify")->isChecked());
+    const CKvDatabase &database = *m_desktop->activeDocument()->GetKvDatabase();
+    EXPECT_EQ(database.getSysVar(OdString("STANDARDSVIOLATION"))->getInt16(), 1);
+}
+
 TEST_F(StandardsSettings, ARequestOpensThePageOfItsNumber)
 {
     openWith({});

@@ -263,6 +263,33 @@ TEST_F(LineTypeFile, AFaultInAnotherStyleDoesNoHarm)
     EXPECT_EQ(shown(read(bytes, "X")), "X|x| 1");
 }
 
+TEST_F(LineTypeFile, ItsNamesAreListedEachOnce)
+{
+    read(";; *OUT,of it\n*X,x\nA,1\n*BAD,x\nA,[\n*x,again\nA,2\n*,nameless\nA,3\n", "X");
+
+    EXPECT_EQ(lineTypeNames(path()), QStringList({ QStringLiteral("X"), QStringLiteral("BAD") }));
+}
+
+TEST(LineTypePattern, IsReadWithItsAlignmentOrWithoutIt)
+{
+    for (const char *pattern : { "A,12.7,-6.35,0", " 12.7, -6.35,0" }) {
+        CKvLineTypeDefinition definition;
+        definition.elements = readLineTypePattern(QString::fromUtf8(pattern));
+
+        EXPECT_EQ(shown(definition), "|| 12.7 -6.35 0") << pattern;
+    }
+}
+
+TEST(LineTypePattern, ThatCannotBeReadSaysWhy)
+{
+    try {
+        readLineTypePattern(QStringLiteral("1,dash"));
+        FAIL() << "no exception";
+    } catch (const CKvDxfError &error) {
+        EXPECT_STREQ(error.what(), "\"dash\" is no number.");
+    }
+}
+
 TEST_P(FaultyDefinition, IsAnErrorWithItsLineAndNotThatOfAMissingStyle)
 {
     try {
