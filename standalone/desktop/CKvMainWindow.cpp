@@ -31,6 +31,8 @@ namespace
 
 constexpr int kStepsOfProgress = 1000;
 constexpr int kMessageMs = 3000;
+// A name, the marks, a line style and a lineweight.
+constexpr int kPanelChars = 50;
 
 } // namespace
 
@@ -66,6 +68,8 @@ CKvMainWindow::CKvMainWindow(CKvDesktop &desktop)
     });
     desktop.session().documentManager()->addDocumentReactor(this);
     resize(1180, 780);
+    resizeDocks(
+        { m_recordsDock }, { fontMetrics().averageCharWidth() * kPanelChars }, Qt::Horizontal);
     m_panel->edit()->setFocus();
 }
 

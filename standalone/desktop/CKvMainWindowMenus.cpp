@@ -18,6 +18,7 @@ namespace
 
 constexpr int kSettingsTopic = 3071;
 constexpr int kVerificationTopic = 3072;
+constexpr int kEditingTopic = 3073;
 
 } // namespace
 
@@ -120,6 +121,9 @@ void CKvMainWindow::makeHelpMenu()
     });
     connect(menu.addAction(tr("About &Verification")), &QAction::triggered, this, [] {
         showHelpTopic(kVerificationTopic);
+    });
+    connect(menu.addAction(tr("About &Editing")), &QAction::triggered, this, [] {
+        showHelpTopic(kEditingTopic);
     });
     menu.addSeparator();
     connect(menu.addAction(tr("&About kvdesk")), &QAction::triggered, this, [this] {

@@ -107,7 +107,7 @@ void CKvRecordsPanel::makeList()
     m_list->setObjectName(QStringLiteral("Records"));
     m_list->setAccessibleName(tr("Layers and styles of the drawing"));
     m_list->setHeaderLabels(
-        { tr("Name"), tr("On"), tr("Fz"), tr("Lk"), tr("Line style, font"), tr("Size") });
+        { tr("Name"), tr("On"), tr("Fz"), tr("Lk"), tr("Details"), tr("Size") });
     m_list->headerItem()->setToolTip(kOnColumn, tr("On or off"));
     m_list->headerItem()->setToolTip(kFrozenColumn, tr("Frozen"));
     m_list->headerItem()->setToolTip(kLockedColumn, tr("Locked"));
@@ -189,12 +189,16 @@ void CKvRecordsPanel::refresh()
 
 void CKvRecordsPanel::showRows(std::vector<CKvRecordRow> rows)
 {
+    const bool isAnyChosen = m_list->currentItem() != nullptr;
     const CKvRecordRow *chosen = chosenRow();
     const OdDbObjectId id = chosen ? chosen->id : OdDbObjectId();
     const CKvRecordKind kind = chosenKind();
     m_rows = std::move(rows);
     fill();
-    choose(kind, id);
+    if (isAnyChosen) {
+        choose(kind, id);
+    }
+    updateButtons();
 }
 
 void CKvRecordsPanel::choose(CKvRecordKind kind, OdDbObjectId id)
@@ -207,7 +211,6 @@ void CKvRecordsPanel::choose(CKvRecordKind kind, OdDbObjectId id)
             m_list->setCurrentItem(*walk);
         }
     }
-    updateButtons();
 }
 
 void CKvRecordsPanel::fill()

@@ -6,6 +6,7 @@
 #include "OdDbDatabase.h"
 #include "OdDbDimStyleTableRecord.h"
 #include "OdError.h"
+#include "angles.h"
 #include "colorFromText.h"
 #include "dimensionPointers.h"
 #include "lineweightNames.h"
@@ -22,8 +23,6 @@ namespace
 using Style = OdDbDimStyleTableRecord;
 using Drawing = OdDbDatabase;
 using Variable = OdDbDimVariable;
-
-constexpr double kDegree = 3.14159265358979323846 / 180;
 
 bool isNone(const QString &answer)
 {
@@ -83,7 +82,7 @@ std::int64_t integerFromText(const CKvDimensionVariable &variable, const QString
 double realFromText(const CKvDimensionVariable &variable, const QString &answer)
 {
     // Users write degrees; everybody else has radians.
-    const double unit = variable.kind == CKvDimensionVariable::Kind::Angle ? kDegree : 1;
+    const double unit = variable.kind == CKvDimensionVariable::Kind::Angle ? kRadiansPerDegree : 1;
     return unit * numberFromText(answer, variable.range.least / unit, variable.range.most / unit);
 }
 

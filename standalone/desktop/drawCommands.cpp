@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "CKvCommandCancelled.h"
 #include "CKvDesktop.h"
 #include "CKvDrawingStore.h"
 #include "CKvHostDocument.h"
@@ -64,17 +65,33 @@ CKvNewEntity begun(CKvDesktop &desktop, std::string_view type, std::string_view 
              currentLook(storeOf(desktop)) };
 }
 
-bool drawLine(CKvDesktop &desktop)
+/// Draws from point to point until the user ends it.
+/// @param drawn receives each line.
+void drawLines(CKvDesktop &desktop, OdDbObjectIdArray &drawn)
 {
-    desktop.requireDocument();
     QPointF from = askPoint(desktop, CKvMainWindow::tr("First point:"));
     while (const std::optional<QPointF> to =
                askPointOrEnd(desktop, CKvMainWindow::tr("Next point <end>:"))) {
         CKvNewEntity line = begun(desktop, "LINE", "AcDbLine");
         appendPoint(line, 10, from);
         appendPoint(line, 11, *to);
-        addToModelSpace(storeOf(desktop), line);
+        drawn.append(addToModelSpace(storeOf(desktop), line).id());
         from = *to;
+    }
+}
+
+bool drawLine(CKvDesktop &desktop)
+{
+    desktop.requireDocument();
+    OdDbObjectIdArray drawn;
+    try {
+        drawLines(desktop, drawn);
+    } catch (const CKvCommandCancelled &) {
+        // The lines were shown as they came; whoever breaks off wants none of them.
+        for (const OdDbObjectId id : drawn) {
+            id.openObject(OdDb::kForWrite)->erase();
+        }
+        throw;
     }
     return true;
 }

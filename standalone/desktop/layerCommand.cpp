@@ -72,27 +72,12 @@ void plotLayer(CKvDesktop &desktop, bool isPlotted)
     setTag(slot, 290, isPlotted ? "1" : "0", { 6, 420, 62 });
 }
 
-void makeLayerCurrent(CKvDesktop &desktop)
-{
-    const OdDbLayerTableRecordPtr layer(
-        askRecord(desktop, CKvRecordKind::Layer, namePrompt(), OdDb::kForRead));
-    if (layerState(*layer).isFrozen) {
-        throw OdError(OdResult::kInvalidInput, "A frozen layer can't be the current one.");
-    }
-    layer->database()->setCLAYER(layer->objectId());
-}
-
 void styleLayer(CKvDesktop &desktop)
 {
     const OdDbLayerTableRecordPtr layer(
         askRecord(desktop, CKvRecordKind::Layer, namePrompt(), OdDb::kForRead));
     const OdDbSymbolTableRecordPtr style = askRecord(
         desktop, CKvRecordKind::LineStyle, CKvMainWindow::tr("Line style:"), OdDb::kForRead);
-    const OdDbDatabase &database = *layer->database();
-    if (style->objectId() == database.getLinetypeByLayerId()
-        || style->objectId() == database.getLinetypeByBlockId()) {
-        throw OdError(OdResult::kInvalidInput, "A layer needs a line style of its own.");
-    }
     layer->upgradeOpen();
     layer->setLinetypeObjectId(style->objectId());
 }
@@ -143,7 +128,7 @@ bool layerCommand(CKvDesktop &desktop)
           { "UNLOCK", [](CKvDesktop &d) { lockLayer(d, false); } },
           { "PLOT", [](CKvDesktop &d) { plotLayer(d, true); } },
           { "NOPLOT", [](CKvDesktop &d) { plotLayer(d, false); } },
-          { "SET", &makeLayerCurrent },
+          { "SET", makesCurrent(CKvRecordKind::Layer, "$CLAYER", 8) },
           { "DELETE", deletes(CKvRecordKind::Layer) } });
 }
 

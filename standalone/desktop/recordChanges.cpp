@@ -5,6 +5,7 @@
 #include "OdDbLayerTableRecord.h"
 #include "OdDbLinetypeTableRecord.h"
 #include "OdDbTextStyleTableRecord.h"
+#include "angles.h"
 #include "layerState.h"
 #include "lineStyleDescription.h"
 
@@ -17,8 +18,6 @@ namespace
 
 using Record = OdDbSymbolTableRecord;
 using Asks = CKvRecordChange::Asks;
-
-constexpr double kDegree = 3.14159265358979323846 / 180;
 
 QString flagText(bool isSet)
 {
@@ -187,7 +186,9 @@ constexpr CKvRecordChange kChanges[] = {
       Asks::Text,
       "OBLIQUE",
       nullptr,
-      [](const Record &r) { return numberText(textStyle(r).obliquingAngle() / kDegree); } },
+      [](const Record &r) {
+          return numberText(textStyle(r).obliquingAngle() / kRadiansPerDegree);
+      } },
     { kText, QT_TRANSLATE_NOOP("CKvRecordsPanel", "Bold"), Asks::Flag, "BOLD", nullptr, &boldText },
     { kText,
       QT_TRANSLATE_NOOP("CKvRecordsPanel", "Italic"),

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "recordIcons.h"
 
+#include "angles.h"
+
 #include <QPainter>
 #include <QPixmap>
 
@@ -37,7 +39,7 @@ void drawBulb(QPainter &painter, bool isOn, const QColor &color)
 void drawFlake(QPainter &painter, const QColor &color)
 {
     constexpr int kArms = 6;
-    constexpr double kTurn = 3.14159265358979323846 * 2 / kArms;
+    constexpr double kTurn = 2 * kPi / kArms;
     painter.setPen(QPen(color, 1.3));
     for (int i = 0; i < kArms; ++i) {
         const QPointF arm(std::sin(i * kTurn), -std::cos(i * kTurn));
@@ -47,6 +49,14 @@ void drawFlake(QPainter &painter, const QColor &color)
         painter.drawLine(knot, knot + (arm + across) * 1.5);
         painter.drawLine(knot, knot + (arm - across) * 1.5);
     }
+}
+
+/// Grey frost would look frozen.
+void drawDot(QPainter &painter, const QColor &color)
+{
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(color);
+    painter.drawEllipse(QPointF(7, 7), 1.5, 1.5);
 }
 
 void drawLock(QPainter &painter, bool isOn, const QColor &color)
@@ -83,7 +93,11 @@ QIcon layerMark(CKvLayerMark mark, bool isOn, const QColor &rim)
         drawBulb(painter, isOn, isOn ? QColor(kBulbColor) : rim);
         break;
     case CKvLayerMark::Frozen:
-        drawFlake(painter, isOn ? QColor(kFrostColor) : rim);
+        if (isOn) {
+            drawFlake(painter, QColor(kFrostColor));
+        } else {
+            drawDot(painter, rim);
+        }
         break;
     case CKvLayerMark::Locked:
         drawLock(painter, isOn, isOn ? QColor(kLockColor) : rim);

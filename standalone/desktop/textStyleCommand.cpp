@@ -3,6 +3,7 @@
 #include "CKvObjectAnnotationContext.h"
 #include "OdDbTextStyleTableRecord.h"
 #include "OdError.h"
+#include "angles.h"
 #include "commandOptions.h"
 #include "desktopCommands.h"
 #include "valueFromText.h"
@@ -14,7 +15,6 @@ namespace
 
 using Style = OdDbTextStyleTableRecord;
 
-constexpr double kDegree = 3.14159265358979323846 / 180;
 constexpr double kLargest = std::numeric_limits<double>::max();
 constexpr double kSmallest = std::numeric_limits<double>::min();
 /// As far as letters can lean.
@@ -136,7 +136,7 @@ CKvCommandOptions options()
           changesStyle(CKvMainWindow::tr("Angle in degrees:"),
                        [](Style &style, const QString &answer) {
                            style.setObliquingAngle(numberFromText(answer, -kSteepest, kSteepest)
-                                                   * kDegree);
+                                                   * kRadiansPerDegree);
                        }) },
         { "BOLD", switchesStyle(&setBold) },
         { "ITALIC", switchesStyle(&setItalic) },

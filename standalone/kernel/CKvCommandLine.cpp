@@ -31,15 +31,6 @@ void endUndoSteps(const QString &name)
     }
 }
 
-void dropUndoSteps()
-{
-    if (const CKvHostDocumentManager *manager = CKvHostDocumentManager::current()) {
-        for (const std::unique_ptr<CKvHostDocument> &document : manager->documents()) {
-            document->undoStack().dropStep();
-        }
-    }
-}
-
 /// Gives up the lines of a script, or of one entry, whatever happens.
 class CKvLinesScope
 {
@@ -191,10 +182,6 @@ CKvCommandLine::Outcome CKvCommandLine::execute(OdEdCommand &command)
     } catch (const CKvCommandCancelled &) {
         outcome = Outcome::Cancelled;
         print(tr("*Cancel*"));
-        if (m_running == 1) {
-            // Whoever breaks off wants nothing of it.
-            dropUndoSteps();
-        }
     } catch (...) {
         // The reactors hear of the failure, the event loop shows it.
         finish(command, *context, Outcome::Failed);

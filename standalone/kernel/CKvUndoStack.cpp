@@ -43,11 +43,6 @@ void CKvUndoStack::endStep(const QString &name)
     ++m_done;
 }
 
-void CKvUndoStack::dropStep()
-{
-    m_journal.take().swap(m_store);
-}
-
 void CKvUndoStack::addToLast(CKvChangeStep changes)
 {
     if (m_done > 0) {

@@ -17,8 +17,6 @@ public:
     /// Ends the step: what has changed since the last one is taken back together.
     /// @param name of the command.
     void endStep(const QString &name);
-    /// Takes back what has changed since the last step, as if it had never been.
-    void dropStep();
     /// @return the command whose changes were taken back; empty when there is none.
     QString undo();
     /// @return the command whose changes were brought again; empty when there is none.

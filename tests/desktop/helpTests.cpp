@@ -47,6 +47,31 @@ TEST_F(CKvDesktopTest, TopicsOpenInAWindow)
     EXPECT_TRUE(shownHelp()->toPlainText().contains(text("VERIFYSTANDARDS")));
 }
 
+TEST_F(CKvDesktopTest, TheTopicAboutEditingNamesEachCommandThatChangesADrawing)
+{
+    showHelpTopic(3073);
+
+    ASSERT_NE(shownHelp(), nullptr);
+    for (const char *command : { "LAYER",
+                                 "LINETYPE",
+                                 "STYLE",
+                                 "DIMSTYLE",
+                                 "RENAME",
+                                 "PURGE",
+                                 "LINE",
+                                 "CIRCLE",
+                                 "TEXT",
+                                 "INSERTBLOCK",
+                                 "ERASE",
+                                 "UNDO",
+                                 "REDO",
+                                 "REDON",
+                                 "SETVAR" }) {
+        EXPECT_TRUE(shownHelp()->toPlainText().contains(text(command))) << command;
+        EXPECT_TRUE(session().commands().find(text(command))) << command;
+    }
+}
+
 TEST_F(CKvDesktopTest, F1InADialogOpensItsTopicUnlessItHasNoHelp)
 {
     CKvTopicDialog without(false);

@@ -155,7 +155,6 @@ TEST_F(RecordCommands, ABadAnswerSaysWhyAndChangesNothing)
         { "LAYER COLOR WALLS ByLayer",
           "\"ByLayer\" is no colour: 1 to 255, red to white, or R,G,B." },
         { "LAYER LTYPE WALLS NONE", "The drawing has nothing of the name \"NONE\"." },
-        { "LAYER LTYPE WALLS ByLayer", "A layer needs a line style of its own." },
         { "LAYER LWEIGHT WALLS ByBlock",
           "A layer's lineweight is Default or a number of millimetres." },
         { "LAYER FREEZE 0", "The current layer can't be frozen." },
