@@ -1,13 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "CKvBenchFiles.h"
 
-#include "processorTime.h"
-
 #include <QFile>
 
-#include <benchmark/benchmark.h>
-
-#include <algorithm>
 #include <cstring>
 
 CKvBenchFiles &CKvBenchFiles::ofThisRun()
@@ -38,22 +33,6 @@ QString CKvBenchFiles::drawing(const QString &name, const CKvBenchDrawing &conte
         qFatal("can't write %s", qPrintable(file));
     }
     return file;
-}
-
-double CKvBenchFiles::floorSeconds(const QString &path)
-{
-    constexpr int kRuns = 5;
-    const auto known = m_floors.find(path);
-    if (known != m_floors.end()) {
-        return known->second;
-    }
-    double shortest = 0;
-    for (int i = 0; i < kRuns; ++i) {
-        const double seconds = secondsOf([&] { benchmark::DoNotOptimize(countLines(path)); });
-        shortest = i == 0 ? seconds : std::min(shortest, seconds);
-    }
-    m_floors[path] = shortest;
-    return shortest;
 }
 
 qint64 countLines(const QString &path)

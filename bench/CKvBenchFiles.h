@@ -5,8 +5,6 @@
 
 #include <QTemporaryDir>
 
-#include <map>
-
 /// The files that a run works on, made when a row first asks for them, gone at its end.
 class CKvBenchFiles
 {
@@ -22,13 +20,8 @@ public:
     /// Where a row may write.
     QString path(const QString &name) const { return m_folder.filePath(name); }
 
-    /// Processor time to read the file and find each of its line ends, the shortest of five;
-    /// measured once a run and file.
-    double floorSeconds(const QString &path);
-
 private:
     QTemporaryDir m_folder;
-    std::map<QString, double> m_floors;
 };
 
 /// Reads the file and finds each line end with memchr.

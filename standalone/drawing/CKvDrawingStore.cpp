@@ -23,7 +23,7 @@ CKvDrawingStore::~CKvDrawingStore() = default;
 
 CKvObjectSlot &CKvDrawingStore::makeSlot(CKvObjectSlot::Role role, std::string_view type)
 {
-    CKvObjectSlot &slot = m_slots.emplace_back();
+    CKvObjectSlot &slot = m_slots.add();
     slot.store = this;
     slot.role = role;
     slot.serial = std::uint32_t(m_slots.size());

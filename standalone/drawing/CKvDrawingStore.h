@@ -4,7 +4,7 @@
 #include "CKvDrawingFormat.h"
 #include "CKvFileImage.h"
 #include "CKvHeaderVariables.h"
-#include "CKvObjectSlot.h"
+#include "CKvSlotPool.h"
 #include "CKvTable.h"
 #include "CKvTableKind.h"
 
@@ -117,7 +117,7 @@ private:
 
     CKvFileImagePtr m_image;
     CKvDrawingFormat m_format;
-    std::deque<CKvObjectSlot> m_slots;
+    CKvSlotPool m_slots;
     std::string m_lastType;
     CKvObjectSlot::Role m_lastRole = CKvObjectSlot::Role::Detached;
     OdRxClass *m_lastClass = nullptr;

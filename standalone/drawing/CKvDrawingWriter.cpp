@@ -44,6 +44,7 @@ CKvDrawingWriter::CKvDrawingWriter(CKvDrawingStore &store)
     }
     // By number: the header may join the list meanwhile.
     clearPointersToErased();
+    m_moved.reserve(store.touched().size());
     for (const CKvObjectSlot *slot : store.touched()) {
         addEdit(*slot);
     }

@@ -2,10 +2,9 @@
 #include "CKvNameUsers.h"
 
 #include "CKvNameIndex.h"
-#include "CKvObjectSlot.h"
 #include "CKvTextCodec.h"
 
-#include <algorithm>
+#include <utility>
 
 namespace
 {
@@ -37,29 +36,31 @@ CKvNameUsers::Spelling &CKvNameUsers::spelling(std::string_view encodedName)
     return made;
 }
 
-void CKvNameUsers::takeOutDoubles(Spelling &spelling)
-{
-    constexpr std::size_t kFewUsers = 16;
-    if (spelling.users.size() > 2 * spelling.withoutDoubles + kFewUsers) {
-        sortWithoutDoubles(spelling.users);
-        spelling.withoutDoubles = spelling.users.size();
-    }
-}
-
-void CKvNameUsers::appendUsers(const QString &name,
-                               const CKvTextCodec &codec,
-                               std::vector<CKvObjectSlot *> &users)
+std::vector<CKvNameUsers::Spelling *> CKvNameUsers::spellingsOf(const QString &name,
+                                                                const CKvTextCodec &codec)
 {
     for (; m_folded < m_spellings.size(); ++m_folded) {
         Spelling &entered = m_spellings[m_folded];
         m_byFoldedName[foldedName(codec.decode(entered.name))].push_back(&entered);
     }
-    const auto found = m_byFoldedName.constFind(foldedName(name));
-    if (found == m_byFoldedName.constEnd()) {
-        return;
+    std::vector<Spelling *> spellings = m_byFoldedName.value(foldedName(name));
+    for (Spelling *meant : spellings) {
+        if (!std::exchange(meant->isInOrder, true)) {
+            sortWithoutDoubles(meant->users);
+        }
     }
-    for (Spelling *meant : *found) {
-        takeOutDoubles(*meant);
+    return spellings;
+}
+
+std::vector<CKvObjectSlot *> CKvNameUsers::usersOf(const QString &name, const CKvTextCodec &codec)
+{
+    const std::vector<Spelling *> spellings = spellingsOf(name, codec);
+    std::vector<CKvObjectSlot *> users;
+    for (const Spelling *meant : spellings) {
         users.insert(users.end(), meant->users.begin(), meant->users.end());
     }
+    if (spellings.size() > 1) {
+        sortWithoutDoubles(users);
+    }
+    return users;
 }

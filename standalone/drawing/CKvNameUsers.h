@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "CKvObjectSlot.h"
+
 #include <QHash>
 #include <QString>
 
+#include <algorithm>
 #include <cstddef>
 #include <deque>
 #include <string>
@@ -11,7 +14,6 @@
 #include <unordered_map>
 #include <vector>
 
-class CKvObjectSlot;
 class CKvTextCodec;
 
 /// Brings objects into the order of the file, each once.
@@ -27,25 +29,40 @@ public:
         if (!m_last || m_last->name != encodedName) {
             m_last = &spelling(encodedName);
         }
-        m_last->users.push_back(&user);
+        m_last->add(user);
     }
-    /// Appends the users of all spellings of a name.
-    void appendUsers(const QString &name,
-                     const CKvTextCodec &codec,
-                     std::vector<CKvObjectSlot *> &users);
+    /// The users of all spellings of a name, in the order of the file.
+    std::vector<CKvObjectSlot *> usersOf(const QString &name, const CKvTextCodec &codec);
+    /// @return true when the predicate holds for one of them.
+    template <class Predicate>
+    bool hasUser(const QString &name, const CKvTextCodec &codec, Predicate predicate)
+    {
+        for (const Spelling *spelling : spellingsOf(name, codec)) {
+            if (std::any_of(spelling->users.begin(), spelling->users.end(), predicate)) {
+                return true;
+            }
+        }
+        return false;
+    }
 
 private:
     struct Spelling {
         std::string name;
         std::vector<CKvObjectSlot *> users;
-        /// How many there were when doubles were last taken out.
-        std::size_t withoutDoubles = 0;
+        /// They stand in the order of the file, each once.
+        bool isInOrder = true;
+
+        void add(CKvObjectSlot &user)
+        {
+            isInOrder = isInOrder && (users.empty() || users.back()->serial < user.serial);
+            users.push_back(&user);
+        }
     };
 
     Spelling &spelling(std::string_view encodedName);
-    /// An entity that goes and comes back is entered each time; the list stays as long as the
-    /// drawing has entities all the same.
-    static void takeOutDoubles(Spelling &spelling);
+    /// All that mean a name, their users in order: one that goes and comes back is entered each
+    /// time, and the list stays as long as the drawing has entities all the same.
+    std::vector<Spelling *> spellingsOf(const QString &name, const CKvTextCodec &codec);
 
     /// Never moved: the keys are views of the names.
     std::deque<Spelling> m_spellings;

@@ -99,7 +99,7 @@ void CKvObjectAccess::abandon(OdDbObject &object)
         return;
     }
     if (!slot->store) {
-        delete slot;
+        delete static_cast<CKvDetachedSlot *>(slot);
     } else if (wasOpenForWrite) {
         --slot->writers;
     }

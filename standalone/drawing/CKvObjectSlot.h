@@ -36,7 +36,6 @@ public:
     };
 
     CKvObjectSlot() = default;
-    virtual ~CKvObjectSlot() = default;
     CKvObjectSlot(const CKvObjectSlot &) = delete;
     CKvObjectSlot &operator=(const CKvObjectSlot &) = delete;
 

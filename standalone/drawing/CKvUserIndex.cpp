@@ -40,6 +40,11 @@ bool CKvUserIndex::mayNameMore(std::string_view type)
     return m_lastMayNameMore;
 }
 
+const CKvTextCodec &CKvUserIndex::codec() const
+{
+    return m_store.format().codec;
+}
+
 void CKvUserIndex::noteRead(CKvObjectSlot &slot, const CKvObjectOutline &outline)
 {
     if (outline.hasPointers || mayNameMore(outline.type)) {
@@ -113,12 +118,11 @@ void CKvUserIndex::lookThroughOpen()
 std::vector<CKvObjectSlot *> CKvUserIndex::usersOf(CKvTableKind kind, const QString &name)
 {
     lookThroughOpen();
-    std::vector<CKvObjectSlot *> found;
-    users(kind).appendUsers(name, m_store.format().codec, found);
-    if (kind == CKvTableKind::TextStyle) {
+    std::vector<CKvObjectSlot *> found = users(kind).usersOf(name, codec());
+    if (kind == CKvTableKind::TextStyle && !m_tables.empty()) {
         found.insert(found.end(), m_tables.begin(), m_tables.end());
+        sortWithoutDoubles(found);
     }
-    sortWithoutDoubles(found);
     return found;
 }
 

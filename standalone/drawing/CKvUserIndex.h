@@ -4,6 +4,7 @@
 #include "CKvNameUsers.h"
 #include "CKvTableKind.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <string>
@@ -35,6 +36,15 @@ public:
     /// the record that is meant then: layer 0, the styles Standard; but not line style ByLayer,
     /// which nearly all mean.
     std::vector<CKvObjectSlot *> usersOf(CKvTableKind kind, const QString &name);
+    /// @return true when the predicate holds for one of those.
+    template <class Predicate>
+    bool hasUser(CKvTableKind kind, const QString &name, Predicate predicate)
+    {
+        lookThroughOpen();
+        return users(kind).hasUser(name, codec(), predicate)
+            || (kind == CKvTableKind::TextStyle
+                && std::any_of(m_tables.begin(), m_tables.end(), predicate));
+    }
     /// Who may hold that handle in a group that keeps its object, or in extended data (1005).
     std::vector<CKvObjectSlot *> holdersOf(std::uint64_t handle);
 
@@ -43,6 +53,7 @@ private:
     void lookThroughOpen();
     void noteHolder(std::uint64_t handle, CKvObjectSlot &slot);
     bool mayNameMore(std::string_view type);
+    const CKvTextCodec &codec() const;
     CKvNameUsers &users(CKvTableKind kind) { return m_users[std::size_t(kind)]; }
 
     CKvDrawingStore &m_store;

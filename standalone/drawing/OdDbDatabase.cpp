@@ -231,9 +231,11 @@ void OdDbDatabase::purgeIds(OdDbObjectIdArray &ids) const
 
 OdDbObjectIdArray OdDbDatabase::entitiesNaming(OdDbObjectId recordId) const
 {
+    const std::vector<CKvObjectSlot *> entities = entitiesInWalkOrder(*m_store, recordId.slot());
     OdDbObjectIdArray found;
-    for (CKvObjectSlot *entity : entitiesInWalkOrder(*m_store, recordId.slot())) {
-        found.append(entity->id());
+    found.resize(unsigned(entities.size()));
+    for (unsigned i = 0; i < found.size(); ++i) {
+        found[i] = entities[i]->id();
     }
     return found;
 }

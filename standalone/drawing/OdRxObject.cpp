@@ -35,7 +35,9 @@ void OdRxObject::addRef()
 
 void OdRxObject::release()
 {
-    if (m_references.fetch_sub(1, std::memory_order_acq_rel) == 1) {
+    // Nobody can add to the only reference but who holds it, so the last one needs no locked step.
+    if (m_references.load(std::memory_order_acquire) == 1
+        || m_references.fetch_sub(1, std::memory_order_acq_rel) == 1) {
         delete this;
     }
 }

@@ -57,9 +57,8 @@ void writeName(CKvObjectSlot &slot, const CKvEntityName &name, std::string_view 
 
 /// Vertices and the end mark follow where they had the same record; the attributes of an insertion
 /// stand between it and its end mark and are entities of their own.
-void writeNameOfParts(CKvObjectSlot &slot,
+void writeNameOfParts(const CKvObjectSlot &slot,
                       const CKvEntityName &name,
-                      const CKvObjectSlot *before,
                       std::string_view encoded)
 {
     static const OdRxClass *const s_attribute = objectClass("ATTRIB", CKvObjectSlot::Role::Entity);
@@ -72,7 +71,7 @@ void writeNameOfParts(CKvObjectSlot &slot,
         if (!isPart && part->rxClass != s_attribute) {
             return;
         }
-        if (isPart && !part->isErased && &recordOf(*part, name) == before) {
+        if (isPart && !part->isErased && &recordOf(*part, name) == &recordOf(slot, name)) {
             writeName(*part, name, encoded);
         }
     }
@@ -85,12 +84,12 @@ void setName(CKvObjectSlot &slot, const CKvEntityName &name, OdDbObjectId id, bo
                       name.code == kLayer.code ? "The layer is not one of this drawing."
                                                : "The line style is not one of this drawing.");
     }
-    const CKvObjectSlot *before = &recordOf(slot, name);
     const std::string &encoded = slot.store->table(name.table).encodedNameOf(*id.slot());
-    writeName(slot, name, encoded);
+    // The parts first, while the entity still tells what it had.
     if (withParts) {
-        writeNameOfParts(slot, name, before, encoded);
+        writeNameOfParts(slot, name, encoded);
     }
+    writeName(slot, name, encoded);
 }
 
 } // namespace

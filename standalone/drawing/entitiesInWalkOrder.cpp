@@ -68,18 +68,19 @@ std::vector<CKvObjectSlot *> entitiesInWalkOrder(CKvDrawingStore &store,
     CKvEntityIndex &index = store.entities();
     std::vector<CKvObjectSlot *> entities =
         isMeantByNearlyAll ? index.all() : index.users().usersOf(*kind, name);
-    entities.erase(std::remove_if(entities.begin(),
-                                  entities.end(),
-                                  [](const CKvObjectSlot *slot) {
-                                      // What stands in no block is met by no walk.
-                                      return slot->isErased || !slot->owner
-                                          || slot->role != CKvObjectSlot::Role::Entity;
-                                  }),
-                   entities.end());
-    const auto isOfAnother = [&](const CKvObjectSlot *slot) {
-        return slot->owner != entities.front()->owner;
+    const CKvObjectSlot *block = nullptr;
+    bool isOfOneBlock = true;
+    const auto isLeftOut = [&](const CKvObjectSlot *slot) {
+        // What stands in no block is met by no walk.
+        if (slot->isErased || !slot->owner || slot->role != CKvObjectSlot::Role::Entity) {
+            return true;
+        }
+        block = block ? block : slot->owner;
+        isOfOneBlock = isOfOneBlock && slot->owner == block;
+        return false;
     };
-    if (std::any_of(entities.begin(), entities.end(), isOfAnother)) {
+    entities.erase(std::remove_if(entities.begin(), entities.end(), isLeftOut), entities.end());
+    if (!isOfOneBlock) {
         sortByBlock(store, entities);
     }
     return entities;

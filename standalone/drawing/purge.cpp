@@ -79,10 +79,9 @@ public:
             const auto names = [&](const CKvObjectSlot *user) {
                 return isNamed(*candidate, kind, *user);
             };
-            std::vector<CKvObjectSlot *> found = users.usersOf(kind, recordName(*candidate));
-            bool isUsed = std::any_of(found.begin(), found.end(), names);
+            bool isUsed = users.hasUser(kind, recordName(*candidate), names);
             if (!isUsed && candidate->handle != 0 && m_store.hasHandles()) {
-                found = users.holdersOf(candidate->handle);
+                const std::vector<CKvObjectSlot *> found = users.holdersOf(candidate->handle);
                 isUsed = std::any_of(found.begin(), found.end(), [&](const CKvObjectSlot *user) {
                     return isHeld(*candidate, *user);
                 });

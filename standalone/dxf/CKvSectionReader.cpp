@@ -152,11 +152,8 @@ void CKvSectionReader::warn(std::size_t offset, const QString &reason) const
     }
 }
 
-bool CKvSectionReader::advance()
+bool CKvSectionReader::endOfBytes()
 {
-    if (m_reader.next()) {
-        return true;
-    }
     switch (m_reader.fault()) {
     case CKvTagReader::Fault::CodeIsNoNumber:
         fail(
@@ -278,14 +275,14 @@ bool CKvSectionReader::nextObject(CKvObjectOutline &outline)
     if (!m_hasPending && !skipToFirstObject()) {
         return endSectionWithRange();
     }
-    const CKvTag start = m_reader.tag();
-    const std::string_view type = start.word();
+    const std::size_t begin = m_reader.tag().begin;
+    const std::string_view type = m_reader.tag().word();
     if (type == "ENDSEC" || type == "SECTION" || type == "EOF") {
         m_hasPending = type != "ENDSEC";
-        return endSection(start.begin);
+        return endSection(begin);
     }
     outline = CKvObjectOutline();
-    outline.begin = start.begin;
+    outline.begin = begin;
     outline.type = type;
     CKvOutlineScan scan(outline);
     while (advance()) {

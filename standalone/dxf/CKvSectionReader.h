@@ -72,7 +72,11 @@ public:
     void warn(std::size_t offset, const QString &reason) const;
 
 private:
-    bool advance();
+    /// Reads the next tag.
+    /// @return false at the end of the bytes.
+    /// @throws CKvDxfError at what is no tag.
+    bool advance() { return m_reader.next() || endOfBytes(); }
+    bool endOfBytes();
     bool skipToFirstObject();
     bool endSection(std::size_t offset);
     bool endSectionWithRange();

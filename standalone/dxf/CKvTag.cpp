@@ -25,6 +25,14 @@ std::int64_t clampedInteger(double number)
     return std::int64_t(number);
 }
 
+/// @return 16 or more for what is none.
+unsigned hexDigit(char c)
+{
+    const unsigned decimal = unsigned(c) - '0';
+    const unsigned letter = (unsigned(c) | 0x20U) - 'a';
+    return decimal < 10 ? decimal : letter < 6 ? letter + 10 : ~0U;
+}
+
 std::string_view numberWord(std::string_view text)
 {
     text = trimmed(text);
@@ -36,22 +44,19 @@ std::string_view numberWord(std::string_view text)
 
 } // namespace
 
-std::string_view trimmed(std::string_view text)
-{
-    constexpr std::string_view kBlanks = " \t\r\n";
-    const std::size_t first = text.find_first_not_of(kBlanks);
-    if (first == std::string_view::npos) {
-        return {};
-    }
-    return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
-}
-
 std::uint64_t handleFromText(std::string_view text)
 {
-    text = trimmed(text);
+    constexpr unsigned kBase = 16;
+    constexpr std::uint64_t kMostBeforeDigit = ~std::uint64_t(0) / kBase;
     std::uint64_t handle = 0;
-    const auto [end, failure] = std::from_chars(text.data(), text.data() + text.size(), handle, 16);
-    return failure == std::errc() && end == text.data() + text.size() ? handle : 0;
+    for (const char c : trimmed(text)) {
+        const unsigned digit = hexDigit(c);
+        if (digit >= kBase || handle > kMostBeforeDigit) {
+            return 0;
+        }
+        handle = handle * kBase + digit;
+    }
+    return handle;
 }
 
 std::string_view CKvTag::word() const

@@ -41,7 +41,17 @@ struct CKvTag {
 };
 
 /// @return the text without blanks, tabs and line ends at its ends.
-std::string_view trimmed(std::string_view text);
+inline std::string_view trimmed(std::string_view text)
+{
+    const auto isBlank = [](char c) { return c == ' ' || c == '\t' || c == '\r' || c == '\n'; };
+    while (!text.empty() && isBlank(text.front())) {
+        text.remove_prefix(1);
+    }
+    while (!text.empty() && isBlank(text.back())) {
+        text.remove_suffix(1);
+    }
+    return text;
+}
 /// @return the number that hexadecimal digits give; 0 when any character is none or there are
 /// over 16.
 std::uint64_t handleFromText(std::string_view text);
