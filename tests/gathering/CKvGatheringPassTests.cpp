@@ -223,6 +223,15 @@ TEST_F(GatheringPass, AnErasedObjectCountsForNothing)
     EXPECT_EQ(run(only(walls)), CKvGatheringPass::Outcome::NothingRan);
 }
 
+TEST_F(GatheringPass, AnErasedObjectHidesNoneBehindIt)
+{
+    OdDbObjectIdArray ids = only(doors);
+    ids.append(walls);
+    doors.openObject(OdDb::kForWrite)->erase();
+
+    EXPECT_EQ(run(ids), CKvGatheringPass::Outcome::Finished);
+}
+
 TEST_F(GatheringPass, APolicyThatRefusesGivenObjectsEndsThePassAndDropsWhatWasGathered)
 {
     layers.finds(walls, 1, 0);
