@@ -159,9 +159,9 @@ void CKvHostDocumentManager::close(CKvHostDocument &document)
     if (wasActive) {
         m_active = nullptr;
     }
-    CKvDocument *const address = leaving.get();
+    // Nobody finds it any more; it stays until all heard, so that its address is nobody else's.
+    tell([&](auto &reactor) { reactor.DocumentDestroyed(leaving.get()); });
     leaving.reset();
-    tell([&](auto &reactor) { reactor.DocumentDestroyed(address); });
     if (wasActive && !m_documents.empty()) {
         activate(*m_documents[std::min(at, m_documents.size() - 1)]);
     } else if (wasActive) {
