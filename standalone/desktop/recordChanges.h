@@ -22,9 +22,9 @@ struct CKvRecordChange {
     };
 
     CKvRecordKind kind;
+    Asks asks;
     /// The entry of the menu, in the language of the sources.
     const char *label;
-    Asks asks;
     /// The option of the command of that kind; of a flag, the one that switches it on.
     const char *option;
     /// The option that switches a flag off. Null when the command asks for ON or OFF.
