@@ -33,27 +33,10 @@ constexpr CKvRecordKind kKinds[] = { CKvRecordKind::Layer,
                                      CKvRecordKind::TextStyle,
                                      CKvRecordKind::DimStyle };
 
-/// The command that changes records of a kind.
+/// The command that changes records of a kind; line styles alone have another word in RENAME.
 QString commandOf(CKvRecordKind kind)
 {
-    switch (kind) {
-    case CKvRecordKind::Layer:
-        return QStringLiteral("LAYER");
-    case CKvRecordKind::LineStyle:
-        return QStringLiteral("LINETYPE");
-    case CKvRecordKind::TextStyle:
-        return QStringLiteral("STYLE");
-    case CKvRecordKind::DimStyle:
-    case CKvRecordKind::Block:
-        break;
-    }
-    return QStringLiteral("DIMSTYLE");
-}
-
-/// What RENAME calls the kind.
-QString wordOf(CKvRecordKind kind)
-{
-    return kind == CKvRecordKind::LineStyle ? QStringLiteral("LTYPE") : commandOf(kind);
+    return kind == CKvRecordKind::LineStyle ? QStringLiteral("LINETYPE") : wordOfRecordKind(kind);
 }
 
 /// With a place for the number of records.
@@ -395,7 +378,7 @@ void CKvRecordsPanel::renameRecord()
     const QString name =
         QInputDialog::getText(this, tr("Rename"), tr("New name:"), QLineEdit::Normal, old);
     if (!name.isEmpty() && name != old) {
-        want(QStringLiteral("RENAME"), { wordOf(kind), quoted(old), quoted(name) });
+        want(QStringLiteral("RENAME"), { wordOfRecordKind(kind), quoted(old), quoted(name) });
     }
 }
 

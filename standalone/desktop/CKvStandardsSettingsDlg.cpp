@@ -5,6 +5,7 @@
 #include "CKvQtDialogButtonBox.h"
 #include "CKvSession.h"
 #include "CKvStdsManager.h"
+#include "filterOfDrawings.h"
 #include "standardsFileState.h"
 #include "standardsList.h"
 
@@ -261,11 +262,8 @@ void CKvStandardsSettingsDlg::updatePreferredFiles()
 
 void CKvStandardsSettingsDlg::chooseFiles()
 {
-    const QStringList chosen =
-        QFileDialog::getOpenFileNames(this,
-                                      tr("Add Standards Files"),
-                                      QFileInfo(m_document.path()).path(),
-                                      tr("Drawings (*.dxf *.DXF);;All files (*)"));
+    const QStringList chosen = QFileDialog::getOpenFileNames(
+        this, tr("Add Standards Files"), QFileInfo(m_document.path()).path(), filterOfDrawings());
     for (const QString &file : chosen) {
         addFile(file);
     }

@@ -6,6 +6,7 @@
 #include "CKvMainWindow.h"
 #include "OdError.h"
 #include "desktopCommands.h"
+#include "filterOfDrawings.h"
 #include "findSupportFile.h"
 
 #include <QDir>
@@ -16,12 +17,6 @@
 
 namespace
 {
-
-QString openFilter()
-{
-    return CKvMainWindow::tr("Drawings (*.dxf *.DXF *.dxf.gz *.dws *.DWS *.dwg *.DWG);;"
-                             "All files (*)");
-}
 
 QString saveFilter()
 {
@@ -73,7 +68,7 @@ QString fileToSave(CKvDesktop &desktop, const CKvHostDocument &document)
 bool openDrawing(CKvDesktop &desktop)
 {
     const QString path = QDir::fromNativeSeparators(
-        fileToOpen(desktop, CKvMainWindow::tr("Open Drawing"), openFilter()));
+        fileToOpen(desktop, CKvMainWindow::tr("Open Drawing"), filterOfDrawings()));
     desktop.window().showReading(path);
     CKvHostDocument &document = desktop.session().documentManager()->open(path);
     desktop.session().settings().addRecentFile(document.path());

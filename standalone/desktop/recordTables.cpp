@@ -5,6 +5,7 @@
 #include "CKvHostDocument.h"
 #include "OdError.h"
 
+#include <algorithm>
 #include <array>
 
 namespace
@@ -50,6 +51,13 @@ bool recordKindFromWord(const QString &word, CKvRecordKind &kind)
         }
     }
     return false;
+}
+
+QString wordOfRecordKind(CKvRecordKind kind)
+{
+    const auto *found = std::find_if(
+        kKinds.begin(), kKinds.end(), [kind](const KindWord &known) { return known.kind == kind; });
+    return QLatin1String(found->word);
 }
 
 OdDbSymbolTablePtr

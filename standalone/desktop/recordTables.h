@@ -15,6 +15,8 @@ enum class CKvRecordKind { Layer, LineStyle, TextStyle, DimStyle, Block };
 /// @param word the beginning of LAYER, LTYPE, STYLE, DIMSTYLE or BLOCK.
 /// @return false for anything else.
 bool recordKindFromWord(const QString &word, CKvRecordKind &kind);
+/// The word in full.
+QString wordOfRecordKind(CKvRecordKind kind);
 OdDbSymbolTablePtr openTable(const CKvHostDocument &document,
                              CKvRecordKind kind,
                              OdDb::OpenMode mode = OdDb::kForRead);

@@ -10,6 +10,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDialogButtonBox>
+#include <QFileDialog>
 #include <QListWidget>
 #include <QPushButton>
 #include <QTabWidget>
@@ -107,6 +108,24 @@ TEST_F(StandardsSettings, FilesAreAddedRemovedAndOrderedWithOk)
 
     EXPECT_EQ(stored(), QStringList({ path("c.dxf"), path("b.dxf"), path("new.dxf") }));
     EXPECT_TRUE(m_desktop->activeDocument()->isModified());
+}
+
+TEST_F(StandardsSettings, AddListsEveryFormThatADrawingIsReadFrom)
+{
+    openWith({});
+    dialog();
+    QStringList filters;
+    CKvModalScript script;
+    script.answer(text("QFileDialog"), [&](QDialog &chooser) {
+        filters = static_cast<QFileDialog &>(chooser).nameFilters();
+        chooser.reject();
+    });
+
+    button("AddFileButton").click();
+
+    EXPECT_EQ(filters,
+              list({ "Drawings (*.dxf *.DXF *.dxf.gz *.dws *.DWS *.dwg *.DWG)", "All files (*)" }));
+    EXPECT_EQ(rows().topLevelItemCount(), 0);
 }
 
 TEST_F(StandardsSettings, CancelAndOkWithoutAChangeLeaveTheDrawingAlone)
