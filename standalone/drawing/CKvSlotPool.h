@@ -4,8 +4,8 @@
 #include "CKvObjectSlot.h"
 
 #include <cstddef>
-#include <cstdlib>
 #include <memory>
+#include <new>
 #include <vector>
 
 /// All slots of a drawing in the order in which they were made. A slot never moves.
@@ -38,8 +38,12 @@ private:
     static constexpr std::size_t kLaterPiece = kHugePage / sizeof(CKvObjectSlot);
 
     struct Freeing {
-        void operator()(CKvObjectSlot *memory) const { std::free(memory); }
+        /// What the memory was asked for with.
+        std::align_val_t alignment;
+        void operator()(CKvObjectSlot *memory) const { ::operator delete(memory, alignment); }
     };
+
+    using Piece = std::unique_ptr<CKvObjectSlot, Freeing>;
 
     void addPiece();
     CKvObjectSlot &inLaterPiece(std::size_t index)
@@ -48,7 +52,7 @@ private:
     }
 
     /// Memory of which the first m_size places are taken.
-    std::vector<std::unique_ptr<CKvObjectSlot, Freeing>> m_pieces;
+    std::vector<Piece> m_pieces;
     std::size_t m_size = 0;
     std::size_t m_room = 0;
 };
