@@ -6,6 +6,7 @@
 #include "CKvMainWindow.h"
 #include "OdError.h"
 #include "desktopCommands.h"
+#include "dwgConversion.h"
 #include "filterOfDrawings.h"
 #include "findSupportFile.h"
 
@@ -44,12 +45,44 @@ QString fileToOpen(CKvDesktop &desktop, const QString &title, const QString &fil
     return path;
 }
 
+bool isYes(const QString &answer)
+{
+    return answer.startsWith(QLatin1Char('y'), Qt::CaseInsensitive);
+}
+
+/// A file dialog asks whether a file may be replaced; for one that was typed the command asks.
+/// @throws CKvCommandCancelled when it may not.
+void requireMayReplace(CKvDesktop &desktop, const CKvHostDocument &document, const QString &path)
+{
+    const QFileInfo file(path);
+    const bool isOwn = file.absoluteFilePath() == document.path();
+    // Saving refuses a DWG file and says why.
+    if (!file.exists() || isOwn || isDwgFile(path)) {
+        return;
+    }
+    const QString question = CKvMainWindow::tr("%1 exists already. Replace it? [Yes/No]")
+                                 .arg(QDir::toNativeSeparators(path));
+    if (!isYes(desktop.commandLine().ask(question))) {
+        throw CKvCommandCancelled();
+    }
+}
+
+QString withSuffix(const QString &path)
+{
+    return QFileInfo(path).suffix().isEmpty() ? QString(path + QLatin1String(".dxf")) : path;
+}
+
+/// @throws CKvCommandCancelled when the user chooses none, or not to replace one.
 QString fileToSave(CKvDesktop &desktop, const CKvHostDocument &document)
 {
     const QString title = CKvMainWindow::tr("Save Drawing As");
     QString path;
     if (desktop.commandLine().hasAnswer()) {
         path = desktop.commandLine().ask(title, CKvInput::Kind::Text);
+        if (!path.isEmpty()) {
+            path = withSuffix(path);
+            requireMayReplace(desktop, document, path);
+        }
     } else {
         QString proposed = document.path().isEmpty() ? document.title() : document.path();
         if (proposed.endsWith(QLatin1String(".dwg"), Qt::CaseInsensitive)) {
@@ -62,7 +95,7 @@ QString fileToSave(CKvDesktop &desktop, const CKvHostDocument &document)
     if (path.isEmpty()) {
         throw CKvCommandCancelled();
     }
-    return QFileInfo(path).suffix().isEmpty() ? QString(path + QLatin1String(".dxf")) : path;
+    return withSuffix(path);
 }
 
 bool openDrawing(CKvDesktop &desktop)
@@ -126,7 +159,7 @@ bool closeDrawing(CKvDesktop &desktop)
     const QString answer = desktop.commandLine().hasAnswer() && document.isModified()
         ? desktop.commandLine().ask(CKvMainWindow::tr("Discard the changes? [Yes/No]"))
         : QString();
-    const bool discards = answer.startsWith(QLatin1Char('y'), Qt::CaseInsensitive);
+    const bool discards = isYes(answer);
     if (!discards && !desktop.window().mayClose(document)) {
         throw CKvCommandCancelled();
     }
@@ -157,9 +190,7 @@ bool loadScript(CKvDesktop &desktop)
 bool quit(CKvDesktop &desktop)
 {
     const bool discards = desktop.commandLine().hasAnswer()
-        && desktop.commandLine()
-               .ask(CKvMainWindow::tr("Discard the changes? [Yes/No]"))
-               .startsWith(QLatin1Char('y'), Qt::CaseInsensitive);
+        && isYes(desktop.commandLine().ask(CKvMainWindow::tr("Discard the changes? [Yes/No]")));
     desktop.window().closeLater(discards);
     return true;
 }

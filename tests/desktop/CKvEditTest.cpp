@@ -46,7 +46,7 @@ bool CKvEditTest::has(CKvRecordKind kind, const char *name)
 
 QByteArray CKvEditTest::saved()
 {
-    enter(QString(text("SAVEAS ") + path("out.dxf")));
+    m_desktop->activeDocument()->saveAs(path("out.dxf"));
     return contentOf(path("out.dxf"));
 }
 

@@ -48,7 +48,7 @@ protected:
     /// What saving writes now.
     QByteArray saved()
     {
-        enter(QString(text("SAVEAS ") + path("out.dxf")));
+        m_desktop->activeDocument()->saveAs(path("out.dxf"));
         return contentOf(path("out.dxf"));
     }
 

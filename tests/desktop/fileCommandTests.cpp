@@ -8,9 +8,11 @@
 #include "OdError.h"
 
 #include <QFileDialog>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTest>
+#include <QTimer>
 
 namespace
 {
@@ -78,6 +80,29 @@ TEST_F(FileCommands, SavingWithoutAChangeWritesTheSameBytes)
     EXPECT_EQ(contentOf(path("a.dxf")), before);
     EXPECT_EQ(contentOf(path("copy.dxf")), before);
     EXPECT_EQ(titles(), list({ "copy.dxf" }));
+}
+
+TEST_F(FileCommands, AFileThatWasTypedIsReplacedOnlyAfterAYes)
+{
+    open(write("a.dxf"));
+    const QByteArray other = contentOf(write("b.dxf", 4));
+    const QByteArray saveAs = QByteArray("SAVEAS ") + path("b").toUtf8();
+
+    QTimer::singleShot(0, &window(), [&] {
+        const QString question = child<QLabel>(window(), "CommandPrompt")->text();
+        EXPECT_TRUE(question.contains(QLatin1String("b.dxf exists already")))
+            << qPrintable(question);
+        window().panel().cancel();
+    });
+    enter(QString::fromUtf8(saveAs));
+    EXPECT_EQ(contentOf(path("b.dxf")), other);
+    enter(QString(text("LOADSCRIPT ") + writeScript(saveAs + "\nNo\n")));
+    EXPECT_EQ(contentOf(path("b.dxf")), other);
+    EXPECT_EQ(titles(), list({ "a.dxf" }));
+    enter(QString(text("LOADSCRIPT ") + writeScript(saveAs + "\nYes\n")));
+
+    EXPECT_EQ(contentOf(path("b.dxf")), contentOf(path("a.dxf")));
+    EXPECT_EQ(titles(), list({ "b.dxf" }));
 }
 
 TEST_F(FileCommands, ANewDrawingAsksForItsNameWhenItIsSaved)
