@@ -4,6 +4,7 @@
 #include "CKvCommandEdit.h"
 #include "CKvCommandLine.h"
 #include "CKvCommandStack.h"
+#include "runFromWidget.h"
 
 #include <QCompleter>
 #include <QHBoxLayout>
@@ -54,7 +55,9 @@ CKvCommandPanel::CKvCommandPanel(CKvCommandLine &commandLine,
     column->addWidget(m_history);
     column->addLayout(row);
     showPrompt(QString());
-    connect(m_edit, &CKvCommandEdit::entered, this, &CKvCommandPanel::takeLine);
+    connect(m_edit, &CKvCommandEdit::entered, this, [this](const QString &line) {
+        runFromWidget([&] { takeLine(line); });
+    });
     connect(m_edit, &CKvCommandEdit::brokenOff, this, &CKvCommandPanel::cancel);
     connect(&m_commandLine, &CKvCommandLine::printed, this, [this](const QString &text) {
         m_history->appendPlainText(text);

@@ -8,6 +8,7 @@
 #include "CKvHostDocument.h"
 #include "CKvRecordsPanel.h"
 #include "askPoint.h"
+#include "runFromWidget.h"
 #include "takeWord.h"
 
 #include <QCloseEvent>
@@ -153,7 +154,7 @@ CKvDrawingView *CKvMainWindow::viewOf(const CKvDocument *document) const
 
 void CKvMainWindow::enter(const QString &line)
 {
-    m_panel->enterCommand(line);
+    runFromWidget([&] { m_panel->enterCommand(line); });
 }
 
 void CKvMainWindow::DocumentCreated(CKvDocument *document)

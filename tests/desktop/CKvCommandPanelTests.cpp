@@ -5,6 +5,8 @@
 #include "CKvCommandEdit.h"
 #include "CKvDesktopTest.h"
 #include "CKvMainWindow.h"
+#include "CKvTestApplication.h"
+#include "OdError.h"
 
 #include <QCompleter>
 #include <QLabel>
@@ -95,6 +97,19 @@ TEST_F(CommandPanel, EscapeBreaksAWaitingCommandOff)
     EXPECT_EQ(m_answers, QStringList());
     EXPECT_EQ(said(), list({ "*Cancel*" }));
     EXPECT_FALSE(window().panel().isAsking());
+}
+
+TEST_F(CommandPanel, WhatATypedCommandThrowsIsToldByTheEventLoop)
+{
+    m_desktop->addCommand("BREAK", [](CKvDesktop &) -> bool { throw OdError_InvalidIndex(); });
+
+    type("BREAK ");
+    type("COUNT ");
+    QCoreApplication::sendPostedEvents(QCoreApplication::instance());
+
+    EXPECT_EQ(CKvTestApplication::instance()->takeFailures(),
+              std::vector<std::string> { "The index is outside the array." });
+    EXPECT_EQ(m_count, 1);
 }
 
 TEST_F(CommandPanel, AMenuEntryBreaksAWaitingCommandOffAndRunsThen)

@@ -127,12 +127,13 @@ protected:
     }
     QByteArray saved()
     {
-        enter(QString(text("SAVEAS ") + path("out.dxf")));
+        m_desktop->activeDocument()->saveAs(path("out.dxf"));
         return contentOf(path("out.dxf"));
     }
     /// What is told in a box, since nobody has caught it.
     static std::vector<std::string> failures()
     {
+        QCoreApplication::sendPostedEvents(QCoreApplication::instance());
         return CKvTestApplication::instance()->takeFailures();
     }
 
