@@ -9,7 +9,7 @@
 #include "recordNames.h"
 
 #include <algorithm>
-#include <unordered_set>
+#include <unordered_map>
 
 namespace
 {
@@ -98,25 +98,36 @@ std::string_view CKvDrawingWriter::bytesOf(const CKvObjectSlot &slot) const
     return cleared != m_cleared.end() ? std::string_view(cleared->second) : slot.bytes();
 }
 
+bool CKvDrawingWriter::isAsRead(const CKvObjectSlot &slot) const
+{
+    const std::string_view file = m_store.image()->bytes();
+    return slot.begin != slot.end && slot.bytes() == file.substr(slot.begin, slot.end - slot.begin);
+}
+
 void CKvDrawingWriter::clearPointersToErased()
 {
-    std::unordered_set<std::uint64_t> erased;
+    // With each handle, whether the file has the object.
+    std::unordered_map<std::uint64_t, bool> erased;
     for (const CKvObjectSlot *slot : m_store.touched()) {
         if (slot->isErased && slot->handle != 0) {
-            erased.insert(slot->handle);
+            erased[slot->handle] |= slot->begin != slot->end;
         }
     }
     if (erased.empty()) {
         return;
     }
     const auto clear = [&](const CKvObjectSlot &slot) {
+        // A pointer to nothing in the file may have the number that a new object had for a while.
+        const bool knowsNew = !isAsRead(slot);
         CKvTagReader reader(slot.bytes(), slot.form());
         std::vector<CKvTag> tags;
         while (reader.next()) {
             const int code = reader.tag().code;
-            if (((code >= 340 && code <= 349) || code == 1005)
-                && erased.count(reader.tag().handle()) != 0) {
-                tags.push_back(reader.tag());
+            if ((code >= 340 && code <= 349) || code == 1005) {
+                const auto pointed = erased.find(reader.tag().handle());
+                if (pointed != erased.end() && (pointed->second || knowsNew)) {
+                    tags.push_back(reader.tag());
+                }
             }
         }
         if (tags.empty() || slot.isErased) {
@@ -129,7 +140,7 @@ void CKvDrawingWriter::clearPointersToErased()
         m_cleared.emplace(&slot, std::move(bytes));
     };
     forEachUndrawnSlot(m_store, clear);
-    for (const std::uint64_t handle : erased) {
+    for (const auto &[handle, isInFile] : erased) {
         for (const CKvObjectSlot *holder : m_store.entities().users().holdersOf(handle)) {
             clear(*holder);
         }

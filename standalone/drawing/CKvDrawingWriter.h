@@ -39,6 +39,7 @@ private:
     Edit moveOf(const CKvObjectSlot &slot) const;
     /// In the order of the file.
     template <class Action> void forEachEdit(Action action) const;
+    bool isAsRead(const CKvObjectSlot &slot) const;
     void clearPointersToErased();
     std::string_view bytesOf(const CKvObjectSlot &slot) const;
     void addEdit(const CKvObjectSlot &slot);

@@ -361,6 +361,22 @@ TEST(Erasing, PointersToAnErasedRecordAreWrittenAsZeroAndSoftOnesStay)
     EXPECT_TRUE(text.contains("\n1005\n0\n"));
 }
 
+TEST(Erasing, ANewRecordThatIsErasedAgainLeavesThePointersThatTheFileHas)
+{
+    CKvDrawingBuilder builder;
+    builder.withDefaults();
+    builder.layer("TELLS").handle("AA1").extendedData("APP", { { 1005, "AA2" } });
+    const OdDbDatabasePtr drawing = builder.open();
+    const OdDbLayerTableRecordPtr layer = OdDbLayerTableRecord::createObject();
+    layer->setName(OdString("NEW"));
+    layersOf(drawing, OdDb::kForWrite)->add(layer);
+    ASSERT_EQ(layer->getDbHandle(), OdDbHandle(0xAA2));
+
+    layer->erase();
+
+    EXPECT_EQ(CKvDrawingFile::toBytes(*drawing), builder.toBytes());
+}
+
 TEST(LayerRecord, OfTwoTrueColoursNoneIsLeftWhenAnIndexIsSet)
 {
     CKvDrawingBuilder builder("AC1032");
