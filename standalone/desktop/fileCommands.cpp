@@ -24,6 +24,11 @@ QString saveFilter()
     return CKvMainWindow::tr("Drawings (*.dxf *.DXF *.dxf.gz *.dws *.DWS);;All files (*)");
 }
 
+QString titleOfSaving()
+{
+    return CKvMainWindow::tr("Save Drawing As");
+}
+
 QString scriptFilter()
 {
     return CKvMainWindow::tr("Scripts (*.scr);;All files (*)");
@@ -50,12 +55,12 @@ bool isYes(const QString &answer)
     return answer.startsWith(QLatin1Char('y'), Qt::CaseInsensitive);
 }
 
-/// A file dialog asks whether a file may be replaced; for one that was typed the command asks.
-/// @throws CKvCommandCancelled when it may not.
+/// For a file that was typed; the file dialog asks by itself.
+/// @throws CKvCommandCancelled when it may not be replaced.
 void requireMayReplace(CKvDesktop &desktop, const CKvHostDocument &document, const QString &path)
 {
     const QFileInfo file(path);
-    const bool isOwn = file.absoluteFilePath() == document.path();
+    const bool isOwn = QDir::cleanPath(file.absoluteFilePath()) == document.path();
     // Saving refuses a DWG file and says why.
     if (!file.exists() || isOwn || isDwgFile(path)) {
         return;
@@ -67,35 +72,37 @@ void requireMayReplace(CKvDesktop &desktop, const CKvHostDocument &document, con
     }
 }
 
-QString withSuffix(const QString &path)
+QString chosenFileToSave(CKvDesktop &desktop, const CKvHostDocument &document)
 {
-    return QFileInfo(path).suffix().isEmpty() ? QString(path + QLatin1String(".dxf")) : path;
+    QString proposed = document.path().isEmpty() ? document.title() : document.path();
+    if (proposed.endsWith(QLatin1String(".dwg"), Qt::CaseInsensitive)) {
+        proposed.replace(proposed.size() - 3, 3, QStringLiteral("dxf"));
+    }
+    QFileDialog dialog(
+        &desktop.window(), titleOfSaving(), QFileInfo(proposed).path(), saveFilter());
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    // By the dialog, so that it asks about the file that will be replaced.
+    dialog.setDefaultSuffix(QStringLiteral("dxf"));
+    dialog.selectFile(QFileInfo(proposed).fileName());
+    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().constFirst() : QString();
 }
 
 /// @throws CKvCommandCancelled when the user chooses none, or not to replace one.
 QString fileToSave(CKvDesktop &desktop, const CKvHostDocument &document)
 {
-    const QString title = CKvMainWindow::tr("Save Drawing As");
-    QString path;
-    if (desktop.commandLine().hasAnswer()) {
-        path = desktop.commandLine().ask(title, CKvInput::Kind::Text);
-        if (!path.isEmpty()) {
-            path = withSuffix(path);
-            requireMayReplace(desktop, document, path);
-        }
-    } else {
-        QString proposed = document.path().isEmpty() ? document.title() : document.path();
-        if (proposed.endsWith(QLatin1String(".dwg"), Qt::CaseInsensitive)) {
-            proposed.replace(proposed.size() - 3, 3, QStringLiteral("dxf"));
-        }
-        // Whether somebody else's work would be lost is asked with better words afterwards.
-        path =
-            QFileDialog::getSaveFileName(&desktop.window(), title, proposed, saveFilter(), nullptr);
-    }
+    const bool isTyped = desktop.commandLine().hasAnswer();
+    QString path = isTyped ? desktop.commandLine().ask(titleOfSaving(), CKvInput::Kind::Text)
+                           : chosenFileToSave(desktop, document);
     if (path.isEmpty()) {
         throw CKvCommandCancelled();
     }
-    return withSuffix(path);
+    if (isTyped) {
+        if (QFileInfo(path).suffix().isEmpty()) {
+            path += QLatin1String(".dxf");
+        }
+        requireMayReplace(desktop, document, path);
+    }
+    return path;
 }
 
 bool openDrawing(CKvDesktop &desktop)

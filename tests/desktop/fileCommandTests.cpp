@@ -7,8 +7,10 @@
 #include "CKvMainWindow.h"
 #include "OdError.h"
 
+#include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTest>
@@ -103,6 +105,30 @@ TEST_F(FileCommands, AFileThatWasTypedIsReplacedOnlyAfterAYes)
 
     EXPECT_EQ(contentOf(path("b.dxf")), contentOf(path("a.dxf")));
     EXPECT_EQ(titles(), list({ "b.dxf" }));
+}
+
+TEST_F(FileCommands, TheDialogAsksAboutTheFileThatItsSuffixMakes)
+{
+    open(write("a.dxf"));
+    const QByteArray other = contentOf(write("b.dxf", 4));
+    QString question;
+    CKvModalScript script;
+    script.answer(text("QFileDialog"), [&](QDialog &dialog) {
+        auto &chooser = static_cast<QFileDialog &>(dialog);
+        script.answer(text("QMessageBox"), [&](QDialog &box) {
+            question = static_cast<QMessageBox &>(box).text();
+            press(box, QMessageBox::No);
+        });
+        child<QLineEdit>(chooser, "fileNameEdit")->setText(text("b"));
+        child<QDialogButtonBox>(chooser, "buttonBox")->button(QDialogButtonBox::Save)->click();
+        chooser.reject();
+    });
+
+    enter("SAVEAS");
+
+    EXPECT_TRUE(question.startsWith(QLatin1String("b.dxf already exists"))) << qPrintable(question);
+    EXPECT_EQ(contentOf(path("b.dxf")), other);
+    EXPECT_EQ(titles(), list({ "a.dxf" }));
 }
 
 TEST_F(FileCommands, ANewDrawingAsksForItsNameWhenItIsSaved)
