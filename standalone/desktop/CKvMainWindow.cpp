@@ -323,13 +323,17 @@ void CKvMainWindow::closeWhenIdle()
 
 void CKvMainWindow::closeEvent(QCloseEvent *event)
 {
-    // First, so that a drawing that can't be saved keeps the window: what is thrown passes by the
-    // end of this function.
+    // A drawing that can't be saved keeps the window.
     event->ignore();
     if (m_desktop.commandLine().isRunning()) {
         m_panel->cancel();
         return;
     }
+    runFromWidget([&] { event->setAccepted(closeDocuments()); });
+}
+
+bool CKvMainWindow::closeDocuments()
+{
     CKvHostDocumentManager &documents = *m_desktop.session().documentManager();
     while (!documents.documents().empty()) {
         // By the command: who notes what has changed forgets it when that begins.
@@ -337,10 +341,10 @@ void CKvMainWindow::closeEvent(QCloseEvent *event)
         if (m_desktop.commandLine().run(QStringLiteral("CLOSE"))
             != CKvCommandLine::Outcome::Ended) {
             m_discardsChanges = false;
-            return;
+            return false;
         }
     }
-    event->accept();
+    return true;
 }
 
 void CKvMainWindow::dragEnterEvent(QDragEnterEvent *event)

@@ -83,6 +83,8 @@ private:
                         const QString &command,
                         const QKeySequence &shortcut = QKeySequence());
     void enter(const QString &line);
+    /// @return false when a drawing stays open.
+    bool closeDocuments();
     void watch(CKvDrawingView &view);
     void showProgress(const CKvDrawingView &view, double part);
     void updateActions();

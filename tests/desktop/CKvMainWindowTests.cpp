@@ -151,6 +151,7 @@ TEST_F(MainWindow, ADrawingThatCanNotBeSavedKeepsTheWindowOpen)
     script.answer(text("QMessageBox"), [](QDialog &box) { press(box, QMessageBox::Save); });
 
     EXPECT_FALSE(window().close());
+    QCoreApplication::sendPostedEvents(QCoreApplication::instance());
 
     EXPECT_EQ(CKvTestApplication::instance()->takeFailures().size(), 1U);
     EXPECT_TRUE(window().isVisible());
