@@ -16,7 +16,7 @@ public:
     virtual void DocumentCreated(CKvDocument *document);
     /// The document is whole for the last time.
     virtual void DocumentToBeDestroyed(CKvDocument *document);
-    /// @param document already gone: an address only.
+    /// @param document no longer the manager's and about to go: an address to compare, no more.
     virtual void DocumentDestroyed(CKvDocument *document);
     virtual void DatabaseAttached(CKvDocument *document);
     virtual void DatabaseDetached(CKvDocument *document);
