@@ -5,7 +5,6 @@
 #include "CKvHostDocument.h"
 #include "OdError.h"
 
-#include <algorithm>
 #include <array>
 
 namespace
@@ -55,9 +54,12 @@ bool recordKindFromWord(const QString &word, CKvRecordKind &kind)
 
 QString wordOfRecordKind(CKvRecordKind kind)
 {
-    const auto *found = std::find_if(
-        kKinds.begin(), kKinds.end(), [kind](const KindWord &known) { return known.kind == kind; });
-    return QLatin1String(found->word);
+    for (const KindWord &known : kKinds) {
+        if (known.kind == kind) {
+            return QLatin1String(known.word);
+        }
+    }
+    return {};
 }
 
 OdDbSymbolTablePtr

@@ -117,15 +117,14 @@ void CKvDrawingWriter::clearPointersToErased()
         return;
     }
     const auto clear = [&](const CKvObjectSlot &slot) {
-        // A pointer to nothing in the file may have the number that a new object had for a while.
-        const bool knowsNew = !isAsRead(slot);
         CKvTagReader reader(slot.bytes(), slot.form());
         std::vector<CKvTag> tags;
         while (reader.next()) {
             const int code = reader.tag().code;
             if ((code >= 340 && code <= 349) || code == 1005) {
+                // A pointer to nothing in the file may have the number that a new object had.
                 const auto pointed = erased.find(reader.tag().handle());
-                if (pointed != erased.end() && (pointed->second || knowsNew)) {
+                if (pointed != erased.end() && (pointed->second || !isAsRead(slot))) {
                     tags.push_back(reader.tag());
                 }
             }
